@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zelcutil {
+
+/**
+ * The registry's language tag for a locale name, written ll_CC.encoding@modifier or with hyphens.
+ *
+ * "en" for C, POSIX, an empty name and what is no language at all.
+ */
+std::string languageTag(std::string_view localeName);
+
+} // namespace zelcutil

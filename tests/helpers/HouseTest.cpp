@@ -1,0 +1,75 @@
+#include "helpers/HouseTest.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+
+namespace {
+
+QStringList announced;
+QStringList unannounced;
+QtMessageHandler testHandler = nullptr;
+
+// Said by the offscreen platform itself, whatever a test does.
+bool isOfThePlatform(const QString &message)
+{
+    return message.contains(QLatin1String("This plugin does not support"));
+}
+
+void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const bool warning = type == QtWarningMsg || type == QtCriticalMsg;
+    if (warning && !announced.removeOne(message) && !isOfThePlatform(message))
+        unannounced.append(message);
+    testHandler(type, context, message);
+}
+
+} // namespace
+
+void HouseTest::announceWarning(const QString &message)
+{
+    announced.append(message);
+}
+
+void HouseTest::init()
+{
+    announced.clear();
+    unannounced.clear();
+    testHandler = qInstallMessageHandler(collect);
+}
+
+void HouseTest::cleanup()
+{
+    qInstallMessageHandler(testHandler);
+    QVERIFY2(announced.isEmpty(), qPrintable(QStringLiteral("did not come: ") + announced.join(QLatin1Char('\n'))));
+    QVERIFY2(unannounced.isEmpty(), qPrintable(unannounced.join(QLatin1Char('\n'))));
+}
+
+bool Picture::paintsOutside(const QImage &image, const QRect &inside)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (!inside.contains(x, y) && qAlpha(image.pixel(x, y)) != 0)
+                return true;
+        }
+    }
+    return false;
+}
+
+QString Picture::colorAt(const QImage &image, int x, int y)
+{
+    return image.pixelColor(x, y).name(QColor::HexArgb);
+}
+
+void HouseTestMain::prepare()
+{
+    if (qEnvironmentVariableIsEmpty("ZEL_TEST_WITHOUT_STYLE_PLUGINS"))
+        return;
+        // The platform plugin is still needed; nothing else of Qt's plugin folder is found without the library paths.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const QString plugins = QLibraryInfo::path(QLibraryInfo::PluginsPath);
+#else
+    const QString plugins = QLibraryInfo::location(QLibraryInfo::PluginsPath);
+#endif
+    qputenv("QT_QPA_PLATFORM_PLUGIN_PATH", (plugins + QStringLiteral("/platforms")).toLocal8Bit());
+    QCoreApplication::setLibraryPaths(QStringList());
+}

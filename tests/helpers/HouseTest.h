@@ -1,0 +1,61 @@
+// What every test of the house shares: no unannounced warning, pictures of what a style paints, and a main function.
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QPainter>
+#include <QStringList>
+#include <QStyle>
+#include <QStyleOption>
+#include <QTest>
+
+/** Base of the tests. A warning that was not announced fails the test function it came in. */
+class HouseTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** The next warning of exactly this text is wanted; a test function that does not bring it fails. */
+    static void announceWarning(const QString &message);
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+};
+
+namespace Picture {
+
+/** What `draw(painter)` paints on a transparent image of the size, on a device of the given pixel ratio. */
+template <typename Draw>
+QImage of(const QSize &size, Draw &&draw, qreal ratio = 1.0)
+{
+    QImage image(size * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    draw(&painter);
+    painter.end();
+    return image;
+}
+
+/** True when any pixel outside `inside` is painted. */
+bool paintsOutside(const QImage &image, const QRect &inside);
+
+/** "#aarrggbb" at a point, for readable failures. */
+QString colorAt(const QImage &image, int x, int y);
+
+} // namespace Picture
+
+namespace HouseTestMain {
+/** Called before the application object is made: takes Qt's style plugins away when the environment says so. */
+void prepare();
+} // namespace HouseTestMain
+
+#define HOUSE_TEST_MAIN(TestClass)                                                                                     \
+    int main(int argc, char *argv[])                                                                                   \
+    {                                                                                                                  \
+        HouseTestMain::prepare();                                                                                      \
+        QApplication application(argc, argv);                                                                          \
+        TestClass test;                                                                                                \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }
