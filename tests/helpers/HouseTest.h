@@ -18,7 +18,7 @@ public:
     /** The next warning of exactly this text is wanted; a test function that does not bring it fails. */
     static void announceWarning(const QString &message);
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
     void cleanup();
 };
@@ -50,6 +50,10 @@ namespace HouseTestMain {
 /** Called before the application object is made: takes Qt's style plugins away when the environment says so. */
 void prepare();
 } // namespace HouseTestMain
+
+/** Fails as soon as the condition does not hold, within so many milliseconds: for what must not happen. */
+#define VERIFY_HOLDS_FOR(condition, milliseconds)                                                                      \
+    QVERIFY2(!QTest::qWaitFor([&] { return !(condition); }, milliseconds), "did not hold: " #condition)
 
 #define HOUSE_TEST_MAIN(TestClass)                                                                                     \
     int main(int argc, char *argv[])                                                                                   \

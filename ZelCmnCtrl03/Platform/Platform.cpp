@@ -1,0 +1,46 @@
+#include "Platform/Platform.h"
+
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QStyle>
+#include <QStyleFactory>
+
+#ifdef Q_OS_WIN
+#include <shellapi.h>
+#include <windows.h>
+#endif
+
+namespace Platform {
+
+bool registerPrivateFont(const QString &path)
+{
+    // The font database ends the process when it is asked before there is an application object.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr)
+        return false;
+    return QFontDatabase::addApplicationFont(path) != -1;
+}
+
+QString displayName(const QString &path)
+{
+#ifdef Q_OS_WIN
+    SHFILEINFOW info;
+    const auto *name = reinterpret_cast<const wchar_t *>(path.utf16());
+    if (SHGetFileInfoW(name, 0, &info, sizeof(info), SHGFI_DISPLAYNAME) == 0)
+        return QString();
+    return QString::fromWCharArray(info.szDisplayName);
+#else
+    const QFileInfo file(path);
+    return file.exists() ? file.fileName() : QString();
+#endif
+}
+
+std::unique_ptr<QStyle> createNativeStyle()
+{
+    std::unique_ptr<QStyle> native(QStyleFactory::create(QStringLiteral("windowsvista")));
+    if (!native)
+        native.reset(QStyleFactory::create(QStringLiteral("Fusion"))); // built into every Qt
+    return native;
+}
+
+} // namespace Platform

@@ -1,0 +1,118 @@
+// The look registry: the one source of the colours, fonts and bitmaps of the house look, asked by name.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QIcon>
+#include <QImage>
+#include <QMap>
+#include <QPixmap>
+#include <QString>
+
+/**
+ * The process-wide data behind the lookups below.
+ *
+ * Nobody has to start it: the first lookup of any kind does, with what the utility library ZelCUtil03 says of the
+ * language and the graphics directory. Once ready it does not change until the process ends. Everything runs on the GUI
+ * thread. A lookup that fails gives a harmless default and a log record, never an error.
+ */
+class CUIGraphics
+{
+public:
+    CUIGraphics() = delete;
+
+    /**
+     * Runs the start-up once: language and graphics directory, colours, fonts, then the XML files over them.
+     *
+     * False when the utility library does not load; the next call tries again.
+     */
+    static bool initializeUIG();
+
+    /** The full path of an existing file of the graphics directory, its language directory first; empty if none. */
+    static QString UIGGetImagePath(const QString &fileName);
+
+    /**
+     * The path with each component under the name that the system shows to the user.
+     *
+     * A component that the system does not know is left out. A blank path gives an empty text.
+     */
+    static QString UIGetLocalizedPath(const QString &nonLocalizedPath);
+
+    /** UIGGetImagePath for a registry that has started. */
+    static QString RetrieveFilePath(const QString &fileName);
+
+private:
+    friend QColor UIGGetColor(const QString &name);
+    friend QFont UIGGetFont(int pixelSize, int weight, bool italic);
+    friend QFont UIGGetUnderlinedFont(int pixelSize, int weight, bool italic);
+    friend QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic);
+    friend QFont UIGGetFont(const QString &name);
+
+    using GetLanguageFunction = const char16_t *(*)();
+    using RetrievePathFunction = void (*)(const char16_t *key, const char16_t **value, int reserved);
+
+    /** The fonts that the lookups copy from. */
+    struct HeldFonts
+    {
+        QFont standard;
+        QFont tooltip;
+        QFont sansSerif;
+        QFont verdana;
+        QFont shellDlg;
+        QFont small;
+        bool smallReplacesStandard = false; // below smallestPrivateFontPixels
+    };
+
+    static bool loadUtilityLibrary();
+    static void GetCULValues(const QString &key);
+    static void initializeColorMap();
+    static void initializeFontMap();
+    static void readXmlFiles();
+    static void ReadUIGraphicsXml(const QString &path);
+    static void initializeFont();
+    static void chooseLanguageFonts(HeldFonts &fonts);
+    static QFont fontOfFamily(const QString &familyKey, int pointSize);
+    static HeldFonts &heldFonts();
+    static const QFont &standardFontForSize(int pixelSize);
+
+    static bool m_bInitialized;
+    static GetLanguageFunction m_pGetLanguage;
+    static RetrievePathFunction m_pRetrievePath;
+    static QString m_sLanguage;
+    static QString m_sGraphicsDir;
+    static QMap<QString, quint32> m_colorMap;
+    static QMap<QString, QString> m_fontMap;
+};
+
+/** The opaque colour of a UIGCLR_ key. A key that does not exist gives black. */
+QColor UIGGetColor(const QString &name);
+
+/**
+ * The font for text of the controls, in the user interface language.
+ *
+ * `pixelSize` in pixels, `weight` on the scale 0 to 99 (50 normal, 75 bold); -1 leaves either as the registry holds it.
+ * Below 14 pixels the private font gives way to the small font.
+ */
+QFont UIGGetFont(int pixelSize, int weight, bool italic);
+
+/** UIGGetFont, underlined. */
+QFont UIGGetUnderlinedFont(int pixelSize, int weight, bool italic);
+
+/** The font of tool tips; arguments as for UIGGetFont. */
+QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic);
+
+/** A copy of a held font by its UIGFONT_ key; the standard font for a key of no held font. */
+QFont UIGGetFont(const QString &name);
+
+/**
+ * A bitmap of the graphics directory by bare file name; null when the file is not found or no image.
+ *
+ * For a `devicePixelRatio` above 1 a "name@2x.png" beside "name.png" wins; the pixmap then says so by its own ratio.
+ */
+QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio = 1.0);
+
+/** The same file as a QImage. */
+QImage UIGGetImage(const QString &fileName);
+
+/** The same file as a QIcon; empty when the file is not found. */
+QIcon UIGGetIcon(const QString &fileName);

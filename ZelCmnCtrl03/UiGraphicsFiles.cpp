@@ -1,0 +1,114 @@
+#include "UiGraphics.h"
+
+#include "Platform/Platform.h"
+#include "include/qt_globals.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+// "name.png" gives "name@2x.png"; empty when no such file stands beside it.
+QString doubleResolutionPath(const QString &path)
+{
+    const int dot = static_cast<int>(path.lastIndexOf(QLatin1Char('.')));
+    const QString twin = path.left(dot) + QLatin1String("@2x") + path.mid(dot);
+    return dot >= 0 && QFile::exists(twin) ? twin : QString();
+}
+
+QString withDisplayNames(const QString &path, QChar separator)
+{
+    // The first section, the drive or the root, is not translated.
+    QString localized = path.section(separator, 0, 0) + separator;
+    const int last = static_cast<int>(path.count(separator));
+    for (int i = 1; i <= last; ++i) {
+        const QString name = Platform::displayName(path.section(separator, 0, i));
+        if (name.isNull()) {
+            ZEL_LOG(zel::LogError, zel::UiGraphics,
+                    QStringLiteral("CUIGraphics::UIGetLocalizedPath - Error while retriving the localized path"));
+            continue;
+        }
+        if (!localized.endsWith(separator))
+            localized += separator;
+        localized += name;
+    }
+    return localized;
+}
+
+} // namespace
+
+QString CUIGraphics::RetrieveFilePath(const QString &fileName)
+{
+    ZEL_UIG_DETAIL(QStringLiteral("ENTER - CUIGraphics::RetrieveFilePath(%1)").arg(fileName));
+    if (fileName.isEmpty()) {
+        ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::RetrieveFilePath : File Name is Empty"));
+        return QString();
+    }
+    if (!m_sGraphicsDir.isEmpty()) {
+        const QString common = m_sGraphicsDir + QLatin1Char('/');
+        for (const QString &path : {common + m_sLanguage + QLatin1Char('/') + fileName, common + fileName}) {
+            if (!QFile::exists(path))
+                continue;
+            ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::RetrieveFilePath : Graphics path found : %1").arg(path));
+            return path;
+        }
+    }
+    ZEL_UIG_DETAIL(
+        QStringLiteral("CUIGraphics::RetrieveFilePath : ERROR : Graphics path not found for: %1").arg(fileName));
+    return QString();
+}
+
+QString CUIGraphics::UIGGetImagePath(const QString &fileName)
+{
+    ZEL_LOG_SCOPE_OF(zel::UiGraphics);
+    initializeUIG();
+    const QString path = RetrieveFilePath(fileName);
+    if (!path.isEmpty())
+        ZEL_UIG_DETAIL(path);
+    return path;
+}
+
+QString CUIGraphics::UIGetLocalizedPath(const QString &nonLocalizedPath)
+{
+    ZEL_LOG_SCOPE_OF(zel::UiGraphics);
+    if (nonLocalizedPath.trimmed().isEmpty()) {
+        ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::UIGetLocalizedPath : nonLocalizedPath is Empty"));
+        return QString();
+    }
+    const QChar separator = QDir::separator();
+    QString path = QDir::toNativeSeparators(nonLocalizedPath);
+    if (path.endsWith(separator))
+        path.chop(1);
+
+    try {
+        return withDisplayNames(path, separator);
+    } catch (...) {
+        ZEL_LOG(zel::LogException, zel::UiGraphics,
+                QStringLiteral("CUIGraphics::UIGetLocalizedPath - Exception while retriving the localized path"));
+        return QString();
+    }
+}
+
+QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
+{
+    CUIGraphics::initializeUIG();
+    const QString path = CUIGraphics::RetrieveFilePath(fileName);
+    if (path.isEmpty())
+        return QPixmap();
+    const QString twin = devicePixelRatio > 1.0 ? doubleResolutionPath(path) : QString();
+    return QPixmap(twin.isEmpty() ? path : twin);
+}
+
+QImage UIGGetImage(const QString &fileName)
+{
+    CUIGraphics::initializeUIG();
+    const QString path = CUIGraphics::RetrieveFilePath(fileName);
+    return path.isEmpty() ? QImage() : QImage(path);
+}
+
+QIcon UIGGetIcon(const QString &fileName)
+{
+    CUIGraphics::initializeUIG();
+    const QString path = CUIGraphics::RetrieveFilePath(fileName);
+    return path.isEmpty() ? QIcon() : QIcon(path);
+}

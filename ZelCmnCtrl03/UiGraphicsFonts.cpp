@@ -1,0 +1,174 @@
+#include "UiGraphics.h"
+
+#include "Platform/Platform.h"
+#include "include/qt_compat.h"
+#include "include/qt_globals.h"
+
+namespace {
+
+struct FamilyDefault
+{
+    const char16_t *key;
+    const char16_t *family;
+};
+
+constexpr FamilyDefault familyDefaults[] = {
+    {u"UIGFONT_KORSANS_MEDIUM", u"KorSans Medium"},
+    {u"UIGFONT_SANS_SERIF", u"SansSerif"},
+    {u"UIGFONT_TAHOMA", u"Tahoma"},
+    {u"UIGFONT_VERDANA", u"Verdana"},
+    {u"UIGFONT_SHELLDLG", u"MS Shell Dlg"},
+    {u"UIGFONT_ARIAL", u"Arial"},
+    {u"UIGFONT_JA", u"MS Gothic"},
+    {u"UIGFONT_ZH-CHS", u"SimSun"},
+    {u"UIGFONT_ZH-CHT", u"Mingliu"},
+    {u"UIGFONT_KO", u"Batang"},
+    {u"UIGFONT_RU", u"Tahoma Cyr"},
+    {u"UIGFONT_EL", u"Tahoma Cyr"},
+    {u"UIGFONT_TR", u"Tahoma Cyr"},
+};
+
+/** A language with a font of its own. */
+struct LanguageFont
+{
+    const char16_t *tag;
+    const char16_t *familyKey;
+    const char16_t *record;
+};
+
+constexpr LanguageFont languageFonts[] = {
+    {u"ja", u"UIGFONT_JA", u"Font is Japanese - MS Gothic"},
+    {u"zh-chs", u"UIGFONT_ZH-CHS", u"Font is Chinese (Simplified)  - SimSun"},
+    {u"zh-cn", u"UIGFONT_ZH-CHS", u"Font is Chinese (Simplified)  - SimSun"},
+    {u"zh-cht", u"UIGFONT_ZH-CHT", u"Font is Chinese (Traditional)  - Mingliu"},
+    {u"zh-tw", u"UIGFONT_ZH-CHT", u"Font is Chinese (Traditional)  - Mingliu"},
+    {u"ko", u"UIGFONT_KO", u"Font is Korean - Batang"},
+    {u"ru", u"UIGFONT_RU", u"Font is Russian - Tahoma Cyr"},
+    {u"el", u"UIGFONT_EL", u"Font is Greek - Tahoma Cyr"},
+    {u"tr", u"UIGFONT_TR", u"Font is Turkish - Tahoma Cyr"},
+    {u"he", u"UIGFONT_TAHOMA", u"Font is Hebrew - Tahoma"},
+};
+
+constexpr int systemFontPoints = 10;
+constexpr int privateFontPoints = 14;
+constexpr int smallestPrivateFontPixels = 14;
+constexpr int normalWeight = 50;
+constexpr int asHeld = -1;
+
+QFont withAttributes(QFont font, int pixelSize, int weight, bool italic)
+{
+    if (pixelSize != asHeld)
+        font.setPixelSize(pixelSize);
+    if (weight != asHeld)
+        zel::setFontWeight(font, weight);
+    font.setItalic(italic);
+    font.setStyleStrategy(QFont::PreferAntialias);
+    return font;
+}
+
+} // namespace
+
+void CUIGraphics::initializeFontMap()
+{
+    ZEL_LOG_SCOPE_OF(zel::UiGraphics);
+    for (const FamilyDefault &family : familyDefaults)
+        m_fontMap.insert(QString::fromUtf16(family.key), QString::fromUtf16(family.family));
+}
+
+void CUIGraphics::initializeFont()
+{
+    ZEL_LOG_SCOPE_OF(zel::UiGraphics);
+    HeldFonts &fonts = heldFonts();
+    chooseLanguageFonts(fonts);
+    fonts.sansSerif = fontOfFamily(QStringLiteral("UIGFONT_SANS_SERIF"), systemFontPoints);
+    fonts.verdana = fontOfFamily(QStringLiteral("UIGFONT_VERDANA"), systemFontPoints);
+    fonts.shellDlg = fontOfFamily(QStringLiteral("UIGFONT_SHELLDLG"), systemFontPoints);
+    fonts.small = fontOfFamily(QStringLiteral("UIGFONT_ARIAL"), systemFontPoints);
+    ZEL_UIG_DETAIL(QStringLiteral("Small Font is Arial"));
+    // Compared as fonts: QFont may keep another spelling of a family name than the map does.
+    const QFont privateFont = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
+    fonts.smallReplacesStandard = fonts.standard.family() == privateFont.family();
+}
+
+void CUIGraphics::chooseLanguageFonts(HeldFonts &fonts)
+{
+    const QString tag = m_sLanguage.toLower();
+    for (const LanguageFont &language : languageFonts) {
+        if (tag != QString::fromUtf16(language.tag))
+            continue;
+        fonts.standard = fontOfFamily(QString::fromUtf16(language.familyKey), systemFontPoints);
+        fonts.tooltip = fonts.standard;
+        ZEL_UIG_DETAIL(QString::fromUtf16(language.record));
+        return;
+    }
+
+    fonts.tooltip = fontOfFamily(QStringLiteral("UIGFONT_TAHOMA"), systemFontPoints);
+    const QString privateFont = RetrieveFilePath(QStringLiteral("Fonts/KORZEMED.otf"));
+    if (privateFont.isEmpty()) {
+        fonts.standard = fonts.tooltip;
+        ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Tahoma"));
+    } else {
+        // A file that is no font leaves the family to the platform's font matching.
+        Platform::registerPrivateFont(privateFont);
+        fonts.standard = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
+        ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Kor Sans Medium"));
+    }
+    ZEL_UIG_DETAIL(QStringLiteral("Tooltip Font is Tahoma"));
+}
+
+QFont CUIGraphics::fontOfFamily(const QString &familyKey, int pointSize)
+{
+    QFont font(m_fontMap.value(familyKey), pointSize);
+    zel::setFontWeight(font, normalWeight);
+    font.setItalic(false);
+    return font;
+}
+
+// Never destroyed: fonts that outlive the application object would touch its font engines on the way out.
+CUIGraphics::HeldFonts &CUIGraphics::heldFonts()
+{
+    static HeldFonts *const fonts = new HeldFonts;
+    return *fonts;
+}
+
+const QFont &CUIGraphics::standardFontForSize(int pixelSize)
+{
+    initializeUIG();
+    const HeldFonts &fonts = heldFonts();
+    // "As held" counts as small too.
+    const bool small = pixelSize < smallestPrivateFontPixels;
+    return small && fonts.smallReplacesStandard ? fonts.small : fonts.standard;
+}
+
+QFont UIGGetFont(int pixelSize, int weight, bool italic)
+{
+    return withAttributes(CUIGraphics::standardFontForSize(pixelSize), pixelSize, weight, italic);
+}
+
+QFont UIGGetUnderlinedFont(int pixelSize, int weight, bool italic)
+{
+    QFont font = UIGGetFont(pixelSize, weight, italic);
+    font.setUnderline(true);
+    return font;
+}
+
+QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic)
+{
+    CUIGraphics::initializeUIG();
+    return withAttributes(CUIGraphics::heldFonts().tooltip, pixelSize, weight, italic);
+}
+
+QFont UIGGetFont(const QString &name)
+{
+    CUIGraphics::initializeUIG();
+    const CUIGraphics::HeldFonts &fonts = CUIGraphics::heldFonts();
+    if (name == QLatin1String("UIGFONT_SANS_SERIF"))
+        return fonts.sansSerif;
+    if (name == QLatin1String("UIGFONT_VERDANA"))
+        return fonts.verdana;
+    if (name == QLatin1String("UIGFONT_SHELLDLG"))
+        return fonts.shellDlg;
+    if (name == QLatin1String("UIGFONT_TAHOMA"))
+        return fonts.tooltip;
+    return fonts.standard;
+}

@@ -1,0 +1,412 @@
+#include "helpers/HouseTest.h"
+
+#include "UiGraphicsColors.h"
+#include "UiGraphicsXml.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+
+namespace {
+
+/** A deployer's graphics directory, an installation's settings and one run of the probe in it. */
+class Deployment
+{
+public:
+    Deployment() { QDir().mkpath(graphics()); }
+
+    QString graphics() const { return m_dir.filePath(QStringLiteral("graphics")); }
+    QString logFile() const { return m_dir.filePath(QStringLiteral("log")); }
+    QString home() const { return m_dir.path(); }
+
+    void write(const QString &name, const QByteArray &content) const
+    {
+        const QString path = graphics() + QLatin1Char('/') + name;
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    void addBitmap(const QString &name, const QSize &size) const
+    {
+        const QString path = graphics() + QLatin1Char('/') + name;
+        QDir().mkpath(QFileInfo(path).path());
+        QImage image(size, QImage::Format_ARGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(path));
+    }
+
+    void set(const QString &variable, const QString &value) { m_variables.insert(variable, value); }
+
+    /** The probe's answers in the order of the questions. */
+    QStringList ask(const QStringList &questions, const QString &probe = QStringLiteral(PROBE)) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("ZEL_GRAPHICS_DIR"), graphics());
+        environment.insert(QStringLiteral("ZEL_LOG"), QStringLiteral("trace"));
+        environment.insert(QStringLiteral("ZEL_LOG_FILE"), logFile());
+        for (auto it = m_variables.begin(); it != m_variables.end(); ++it)
+            environment.insert(it.key(), it.value());
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(probe, questions);
+        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+            return {QStringLiteral("probe failed: ") + QString::fromLocal8Bit(process.readAllStandardError())};
+        QStringList answers;
+        for (const QByteArray &line : process.readAllStandardOutput().trimmed().split('\n'))
+            answers.append(QString::fromUtf8(line.mid(line.indexOf('=') + 1)));
+        return answers;
+    }
+
+    QString log() const
+    {
+        QFile file(logFile());
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QMap<QString, QString> m_variables;
+};
+
+QStringList words(const char *text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char(' '));
+}
+
+constexpr char highlight[] = "color UIGCLR_PB_NORMAL_BOTTOM";
+constexpr char highlightDefault[] = "#fff7941d";
+
+QByteArray colorXml(const char *value)
+{
+    return QByteArray("<UIGraphics><Color Name=\"UIGCLR_PB_NORMAL_BOTTOM\">") + value + "</Color></UIGraphics>";
+}
+
+} // namespace
+
+class tst_UiGraphics : public HouseTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keysAreDistinct();
+    void colorsAreOpaqueAndUnknownOnesBlack();
+    void startsOnce();
+    void withoutUtilityLibraryEverythingIsHarmless();
+    void startsWhenUtilityLibraryAppears();
+    void incompleteUtilityLibrary_data();
+    void incompleteUtilityLibrary();
+    void emptyGraphicsDirectory();
+    void xmlOverridesColors_data();
+    void xmlOverridesColors();
+    void xmlReadsInDocumentOrder();
+    void languageFileWins();
+    void languageChoosesFont_data();
+    void languageChoosesFont();
+    void privateFont();
+    void fontAttributes();
+    void heldFonts();
+    void filesOfTheLanguageComeFirst();
+    void doubleResolution();
+    void localizedPath();
+};
+
+void tst_UiGraphics::keysAreDistinct()
+{
+    QSet<QString> keys;
+    int opaque = 0;
+    for (const ColorDefault &color : colorDefaults) {
+        const QString key = QString::fromUtf16(color.key);
+        QVERIFY2(key.startsWith(QLatin1String("UIGCLR_")) && !keys.contains(key), qPrintable(key));
+        keys.insert(key);
+        opaque += qAlpha(color.argb) == 255 ? 1 : 0;
+    }
+    QCOMPARE(static_cast<int>(keys.size()), 326);
+    QCOMPARE(opaque, 320);
+}
+
+void tst_UiGraphics::colorsAreOpaqueAndUnknownOnesBlack()
+{
+    const Deployment deployment;
+    QCOMPARE(deployment.ask(words("color UIGCLR_WHITE color UIGCLR_UIF_BOTTOM_GRAYSHADE_GRAD_5 color UIGCLR_LIB_BKGND "
+                                  "color UIGCLR_PB_TRANS_BUTTONRECT color uigclr_white")
+                            << QStringLiteral("color") << QString()),
+             words("#ffffffff #ff74a6b0 #ff0064b1 #ff000000 #ff000000 #ff000000"));
+}
+
+void tst_UiGraphics::startsOnce()
+{
+    const Deployment deployment;
+    QCOMPARE(deployment.ask(words("color UIGCLR_WHITE color UIGCLR_RED")), words("#ffffffff #ffff0000"));
+    const QString log = deployment.log();
+    QCOMPARE(log.count(QLatin1String(": CUIGraphics::initializeUIG\n")), 2); // its entry and its exit
+    QStringList progress;
+    for (const QString &line : log.split(QLatin1Char('\n'))) {
+        if (line.contains(QLatin1String(":: After")))
+            progress.append(line.section(QLatin1Char(' '), -1));
+    }
+    QCOMPARE(progress, words("GetCULValues initializeColorMap initializeFontMap initializeFont"));
+    QVERIFY(log.contains(QLatin1String("uigraphics .\\UiGraphics(")));
+}
+
+void tst_UiGraphics::withoutUtilityLibraryEverythingIsHarmless()
+{
+    const Deployment deployment;
+    const QStringList answers =
+        deployment.ask(words("color UIGCLR_WHITE font 13 75 1 path Close.png pixmap Close.png 1 icon Close.png"),
+                       QStringLiteral(PROBE_ALONE));
+    QCOMPARE(answers.value(0), QStringLiteral("#ff000000"));
+    QVERIFY2(answers.value(1).endsWith(QLatin1String(",13px,-1pt,bold,italic,antialias")),
+             qPrintable(answers.value(1)));
+    QCOMPARE(answers.mid(2), QStringList() << QString() << QStringLiteral("null") << QStringLiteral("null"));
+    // Every lookup tries anew.
+    QCOMPARE(deployment.log().count(QLatin1String("library load of zelcutil failed")), 5);
+}
+
+void tst_UiGraphics::startsWhenUtilityLibraryAppears()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("LD_LIBRARY_PATH"), deployment.home());
+    deployment.set(QStringLiteral("PROBE_LIBRARY_DIR"), deployment.home());
+    const QStringList questions = words("color UIGCLR_WHITE provide")
+                                  << QStringLiteral(UTILITY_LIBRARY) << words("color UIGCLR_WHITE color UIGCLR_RED");
+    QCOMPARE(deployment.ask(questions, QStringLiteral(PROBE_ALONE)), words("#ff000000 done #ffffffff #ffff0000"));
+    QCOMPARE(deployment.log().count(QLatin1String("library load of zelcutil failed")), 1);
+}
+
+void tst_UiGraphics::incompleteUtilityLibrary_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<QString>("missing");
+    QTest::newRow("no RetrievePath") << QStringLiteral(ONLY_LANGUAGE) << QStringLiteral("MS Gothic")
+                                     << QStringLiteral("no RetrievePath in zelcutil");
+    QTest::newRow("no GetLanguage") << QStringLiteral(ONLY_PATH) << QStringLiteral("Tahoma")
+                                    << QStringLiteral("no GetLanguage in zelcutil");
+}
+
+void tst_UiGraphics::incompleteUtilityLibrary()
+{
+    QFETCH(QString, directory);
+    QFETCH(QString, family);
+    QFETCH(QString, missing);
+    Deployment deployment;
+    deployment.set(QStringLiteral("LD_LIBRARY_PATH"), directory);
+    const QStringList answers =
+        deployment.ask(words("color UIGCLR_WHITE font 14 -1 0 path Close.png"), QStringLiteral(PROBE_ALONE));
+    QCOMPARE(answers.value(0), QStringLiteral("#ffffffff"));
+    QCOMPARE(answers.value(1).section(QLatin1Char(','), 0, 0), family);
+    QCOMPARE(answers.value(2), QString());
+    QCOMPARE(deployment.log().count(missing), 1);
+}
+
+void tst_UiGraphics::emptyGraphicsDirectory()
+{
+    Deployment deployment;
+    const QString settings = deployment.home() + QStringLiteral("/zelcutil03.ini");
+    QFile file(settings);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[Installation]\nCommonGraphicsDir =\n");
+    file.close();
+    deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), QString());
+    deployment.set(QStringLiteral("XDG_CONFIG_HOME"), deployment.home());
+    QCOMPARE(deployment.ask(words("color UIGCLR_WHITE path PushbuttonWhiteBlit.png font 14 -1 0")),
+             QStringList() << QStringLiteral("#ffffffff") << QString()
+                           << QStringLiteral("Tahoma,14px,-1pt,normal,antialias"));
+    QVERIFY(!deployment.log().contains(QLatin1String("BaseValue found")));
+}
+
+void tst_UiGraphics::xmlOverridesColors_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("color");
+    const auto changed = QStringLiteral("#ff8a2be2");
+    const QString kept = QLatin1String(highlightDefault);
+    const auto black = QStringLiteral("#ff000000");
+    QTest::newRow("without alpha") << colorXml("8A2BE2") << changed;
+    QTest::newRow("with alpha, which is ignored") << colorXml("108A2BE2") << changed;
+    QTest::newRow("white space around") << colorXml("\n  8a2be2 ") << changed;
+    QTest::newRow("in pieces") << colorXml("8A<!-- red -->2B<b>E2</b>") << changed;
+    QTest::newRow("leading #") << colorXml("#8A2BE2") << black;
+    QTest::newRow("too long") << colorXml("1108A2BE2") << black;
+    QTest::newRow("empty") << colorXml("") << black;
+    QTest::newRow("below three levels") << QByteArray("<a><b><c>") + colorXml("8A2BE2") + "</c></b></a>" << changed;
+    QTest::newRow("second of a name") << QByteArray("<a>") + colorXml("112233") + colorXml("8A2BE2") + "</a>"
+                                      << changed;
+    QTest::newRow("element name in lower case")
+        << QByteArray("<a><color Name='UIGCLR_PB_NORMAL_BOTTOM'>8A2BE2</color></a>") << kept;
+    QTest::newRow("no Name") << QByteArray("<a><Color>8A2BE2</Color></a>") << kept;
+    QTest::newRow("other key") << QByteArray("<a><Color Name='UIGCLR_NONE'>8A2BE2</Color></a>") << kept;
+    QTest::newRow("not closed") << QByteArray("<a>") + colorXml("8A2BE2") << kept;
+    QTest::newRow("text behind the root") << colorXml("8A2BE2") + "rest" << kept;
+    QTest::newRow("no XML") << QByteArray("\x89PNG\r\n") << kept;
+    QTest::newRow("no content") << QByteArray() << kept;
+}
+
+void tst_UiGraphics::xmlOverridesColors()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QString, color);
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), xml);
+    QCOMPARE(deployment.ask(words(highlight) << words("color UIGCLR_PB_TRANS_BUTTONRECT color UIGCLR_WHITE")),
+             QStringList() << color << words("#ff000000 #ffffffff"));
+}
+
+void tst_UiGraphics::xmlReadsInDocumentOrder()
+{
+    const Deployment deployment;
+    deployment.write(QStringLiteral("x.xml"), "<Color Name='outer'>1<Color Name='inner'>2</Color><Font Name='f'> A B "
+                                              "</Font></Color>");
+    const LookOverrides overrides = readLookOverrides(deployment.graphics() + QStringLiteral("/x.xml"));
+    QCOMPARE(static_cast<int>(overrides.colors.size()), 2);
+    QCOMPARE(overrides.colors.at(0).name, QStringLiteral("outer"));
+    QCOMPARE(overrides.colors.at(0).text, QStringLiteral("12 A B"));
+    QCOMPARE(overrides.colors.at(1).text, QStringLiteral("2"));
+    QCOMPARE(overrides.fonts.value(0).text, QStringLiteral("A B"));
+}
+
+void tst_UiGraphics::languageFileWins()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LANGUAGE"), QStringLiteral("ko"));
+    deployment.write(QStringLiteral("UIGraphics.xml"),
+                     "<a><Color Name='UIGCLR_PB_NORMAL_BOTTOM'>111111</Color><Color Name='UIGCLR_PB_NORMAL_TOP'>222222"
+                     "</Color><Font Name='UIGFONT_KO'>Common</Font></a>");
+    deployment.write(QStringLiteral("ko/UIGraphics.xml"),
+                     "<a><Color Name='UIGCLR_PB_NORMAL_BOTTOM'>333333</Color><Font Name='UIGFONT_KO'>Nanum</Font></a>");
+    QCOMPARE(deployment.ask(words("color UIGCLR_PB_NORMAL_BOTTOM color UIGCLR_PB_NORMAL_TOP font 13 -1 0")),
+             words("#ff333333 #ff222222 Nanum,13px,-1pt,normal,antialias"));
+}
+
+void tst_UiGraphics::languageChoosesFont_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<QString>("record");
+    const auto row = [](const char *tag, const char *family, const char *record) {
+        QTest::newRow(*tag != '\0' ? tag : "none")
+            << QString::fromLatin1(tag) << QString::fromLatin1(family) << QString::fromLatin1(record);
+    };
+    row("ja", "MS Gothic", "Font is Japanese - MS Gothic");
+    row("JA", "MS Gothic", "Font is Japanese - MS Gothic");
+    row("zh-chs", "SimSun", "Font is Chinese (Simplified)  - SimSun");
+    row("zh-CN", "SimSun", "Font is Chinese (Simplified)  - SimSun");
+    row("zh-cht", "Mingliu", "Font is Chinese (Traditional)  - Mingliu");
+    row("zh-tw", "Mingliu", "Font is Chinese (Traditional)  - Mingliu");
+    row("ko", "Batang", "Font is Korean - Batang");
+    row("ru", "Tahoma Cyr", "Font is Russian - Tahoma Cyr");
+    row("el", "Tahoma Cyr", "Font is Greek - Tahoma Cyr");
+    row("tr", "Tahoma Cyr", "Font is Turkish - Tahoma Cyr");
+    row("he", "Tahoma", "Font is Hebrew - Tahoma");
+    row("en", "Tahoma", "Standard Font is Tahoma");
+    row("pt-br", "Tahoma", "Standard Font is Tahoma");
+}
+
+void tst_UiGraphics::languageChoosesFont()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, family);
+    QFETCH(QString, record);
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LANGUAGE"), language);
+    const QString held = family + QStringLiteral(",-1px,10pt,normal");
+    QCOMPARE(deployment.ask(words("font 13 -1 0 held UIGFONT_TAHOMA held UIGFONT_JA")),
+             QStringList() << family + QStringLiteral(",13px,-1pt,normal,antialias") << held << held);
+    QVERIFY(deployment.log().contains(QLatin1String(": ") + record + QLatin1Char('\n')));
+    QVERIFY(deployment.log().contains(QLatin1String(": Small Font is Arial\n")));
+}
+
+void tst_UiGraphics::privateFont()
+{
+    // Any font will do as long as the system does not have it: fontconfig is shown an empty directory.
+    const QString anyFont = QStringLiteral(TEST_FONT);
+    QVERIFY2(QFile::exists(anyFont), "The font of Debian's package fonts-dejavu-core is needed here.");
+    Deployment deployment;
+    deployment.write(QStringLiteral("fonts.conf"), "<?xml version='1.0'?><!DOCTYPE fontconfig SYSTEM 'fonts.dtd'>"
+                                                   "<fontconfig><dir>/nowhere</dir></fontconfig>");
+    deployment.set(QStringLiteral("FONTCONFIG_FILE"), deployment.graphics() + QStringLiteral("/fonts.conf"));
+    const QString family = QStringLiteral("DejaVu Sans");
+    const QStringList questions = words("font 13 -1 0 font 14 -1 0 font -1 -1 0 tooltip 11 53 0 families") << family;
+
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<a><Font Name='UIGFONT_KORSANS_MEDIUM'>DejaVu Sans</Font></a>");
+    QCOMPARE(deployment.ask(questions).last(), QStringLiteral("no"));
+
+    deployment.write(QStringLiteral("Fonts/KORZEMED.otf"), QByteArray());
+    QFile::remove(deployment.graphics() + QStringLiteral("/Fonts/KORZEMED.otf"));
+    QVERIFY(QFile::copy(anyFont, deployment.graphics() + QStringLiteral("/Fonts/KORZEMED.otf")));
+    QCOMPARE(deployment.ask(questions), QStringList() << QStringLiteral("Arial,13px,-1pt,normal,antialias")
+                                                      << QStringLiteral("DejaVu Sans,14px,-1pt,normal,antialias")
+                                                      << QStringLiteral("Arial,-1px,10pt,normal,antialias")
+                                                      << QStringLiteral("Tahoma,11px,-1pt,normal,antialias")
+                                                      << QStringLiteral("yes"));
+    QVERIFY(deployment.log().contains(QLatin1String("Standard Font is Kor Sans Medium")));
+
+    // A language with a font of its own leaves the private one alone.
+    deployment.set(QStringLiteral("ZEL_LANGUAGE"), QStringLiteral("ko"));
+    QCOMPARE(deployment.ask(questions).mid(0, 2), QStringList() << QStringLiteral("Batang,13px,-1pt,normal,antialias")
+                                                                << QStringLiteral("Batang,14px,-1pt,normal,antialias"));
+}
+
+void tst_UiGraphics::fontAttributes()
+{
+    const Deployment deployment;
+    QCOMPARE(deployment.ask(words("font -1 -1 0 font 20 75 1 underlined 16 -1 0 tooltip -1 75 1")),
+             words("Tahoma,-1px,10pt,normal,antialias Tahoma,20px,-1pt,bold,italic,antialias "
+                   "Tahoma,16px,-1pt,normal,underline,antialias Tahoma,-1px,10pt,bold,italic,antialias"));
+}
+
+void tst_UiGraphics::heldFonts()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LANGUAGE"), QStringLiteral("ja"));
+    QCOMPARE(deployment.ask(words("held UIGFONT_SANS_SERIF held UIGFONT_VERDANA held UIGFONT_SHELLDLG held other")),
+             QStringList() << QStringLiteral("SansSerif,-1px,10pt,normal") << QStringLiteral("Verdana,-1px,10pt,normal")
+                           << QStringLiteral("MS Shell Dlg,-1px,10pt,normal")
+                           << QStringLiteral("MS Gothic,-1px,10pt,normal"));
+}
+
+void tst_UiGraphics::filesOfTheLanguageComeFirst()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LANGUAGE"), QStringLiteral("ja"));
+    deployment.addBitmap(QStringLiteral("Close.png"), QSize(3, 4));
+    deployment.addBitmap(QStringLiteral("Help.png"), QSize(5, 6));
+    deployment.addBitmap(QStringLiteral("ja/Close.png"), QSize(7, 8));
+    QCOMPARE(deployment.ask(words("pixmap Close.png 1 image Help.png pixmap None.png 1 icon Help.png path Help.png")),
+             words("7x8@1 5x6@1 null icon") << deployment.graphics() + QStringLiteral("/Help.png"));
+    QVERIFY(deployment.log().contains(
+        QLatin1String("CUIGraphics::RetrieveFilePath : ERROR : Graphics path not found for: None.png\n")));
+    QCOMPARE(deployment.ask(QStringList() << QStringLiteral("path") << QString()), QStringList(QString()));
+    QVERIFY(deployment.log().contains(QLatin1String("CUIGraphics::RetrieveFilePath : File Name is Empty\n")));
+}
+
+void tst_UiGraphics::doubleResolution()
+{
+    const Deployment deployment;
+    deployment.addBitmap(QStringLiteral("Close.png"), QSize(10, 10));
+    deployment.addBitmap(QStringLiteral("Close@2x.png"), QSize(20, 20));
+    deployment.addBitmap(QStringLiteral("Help.png"), QSize(10, 10));
+    QCOMPARE(deployment.ask(words("pixmap Close.png 1 pixmap Close.png 2 pixmap Help.png 2")),
+             words("10x10@1 20x20@2 10x10@1"));
+}
+
+void tst_UiGraphics::localizedPath()
+{
+    const Deployment deployment;
+    const QString there = deployment.graphics();
+    QCOMPARE(deployment.ask({QStringLiteral("localized"), there, QStringLiteral("localized"), there + QLatin1Char('/'),
+                             QStringLiteral("localized"), there + QStringLiteral("/none"), QStringLiteral("localized"),
+                             QStringLiteral("   ")}),
+             QStringList() << there << there << there << QString());
+    QCOMPARE(deployment.log().count(
+                 QLatin1String("CUIGraphics::UIGetLocalizedPath - Error while retriving the localized path")),
+             1);
+}
+
+HOUSE_TEST_MAIN(tst_UiGraphics)
+#include "tst_UiGraphics.moc"
