@@ -1,0 +1,44 @@
+#pragma once
+
+#include "CC4Styles/CommonControlStyle.h"
+#include "include/zelcmnctrl_export.h"
+
+#include <QFlags>
+#include <QPointer>
+
+/**
+ * Hands out the library's shared style objects, one of each kind, counted by references.
+ *
+ * The first request for the main or the blue style also makes it the application's style; the application owns it from
+ * then on, and keeps it after the last reference is given back. CButtonEx and CTextBoxEx take and release the main
+ * style by themselves. An application stays with one of the two: installing the second destroys the first.
+ *
+ * GUI thread only.
+ */
+class ZELCMNCTRL_EXPORT CC4StyleFactory
+{
+public:
+    /** The kinds. They are compared as whole numbers, not as bits. */
+    enum Styles
+    {
+        CC4Style = 0,        ///< the main style, CCommonControlStyle
+        BlueScrollStyle = 1, ///< the main style with bitmap scroll bars; not to be had yet, getStyle answers null
+        TBWStyle = 2         ///< the small header style; not to be had yet, getStyle answers null
+    };
+    Q_DECLARE_FLAGS(CC4Styles, Styles)
+
+    CC4StyleFactory() = default;
+    CC4StyleFactory &operator=(const CC4StyleFactory &) { return *this; }
+
+    /** The shared style of the kind, owned by the application; null, with a log record, for an unknown kind. */
+    static QStyle *getStyle(CC4Styles styleType);
+
+    /** Gives one reference back. Destroys nothing: after the last one the factory only forgets the style. */
+    static void releaseStyle(CC4Styles styleType);
+
+private:
+    static QPointer<CCommonControlStyle> m_pCC4Style; // null too once an application has replaced the style
+    static int m_iRefCountCC4;
+};
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(CC4StyleFactory::CC4Styles)

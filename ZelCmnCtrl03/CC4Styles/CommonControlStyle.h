@@ -1,0 +1,121 @@
+#pragma once
+
+#include "include/zelcmnctrl_export.h"
+
+#include <QPainterPath>
+#include <QProxyStyle>
+
+#include <memory>
+
+class CButtonEx;
+class QStyleOptionButton;
+
+/**
+ * The house style: one look for standard Qt widgets and for the controls of this library.
+ *
+ * Take the shared object from CC4StyleFactory rather than making one; a style handed to QApplication::setStyle belongs
+ * to the application from then on. As the application's style it brings its palette along, unless the application has
+ * set one itself, and turns the fading and animation of menus off for the whole application.
+ *
+ * Everything that it does not draw itself is drawn by its base: Plastique where Qt has that style, Fusion elsewhere.
+ *
+ * The painters below are what the style's own entry points call. An option of the wrong type paints nothing. All sizes
+ * are pixels of the painter.
+ */
+class ZELCMNCTRL_EXPORT CCommonControlStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    CCommonControlStyle();
+    ~CCommonControlStyle() override;
+
+    /** Deletes the style. For whoever owns one directly; never for one that an application has. */
+    void dispose();
+
+    // What Qt asks of a style.
+
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+
+    /** Makes standardPalette() the application's, unless it has set one of its own. */
+    void polish(QApplication *application) override;
+    /** Leaves the palette as it is. */
+    void polish(QPalette &palette) override;
+    /** Takes back the palette that polish() gave to the application. */
+    void unpolish(QApplication *application) override;
+
+    /** The house palette: sixteen roles in three groups from the registry's UIGCLR_PALETTE_ colours. */
+    QPalette standardPalette() const override;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
+
+    /** Draws with antialiasing, which stays on for the painter afterwards. */
+    void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette, bool enabled,
+                      const QString &text, QPalette::ColorRole textRole = QPalette::NoRole) const override;
+
+    // Push button faces. The first three take a QStyleOptionButton and any widget, null included; the last two need a
+    // CButtonEx, and without one draw nothing.
+
+    /** The white face, with the button's image. */
+    void drawNormalPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    /** The green face, with the button's image. */
+    void drawActivePushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    /** The blue face, with the button's image. */
+    void drawTrayPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    /** The button's image alone. */
+    void drawTransparentPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    /** The button's image over a glow as strong as CButtonEx::getGlowAlpha() says. */
+    void drawGlowingPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+
+    // Tools of the painters.
+
+    /**
+     * The QPixmapCache key of a picture: "key-state-activeSubControls-palette-widthxheight".
+     *
+     * The key text is taken as Latin-1.
+     */
+    QString uniqueName(const QString &key, const QStyleOption *option, const QSize &size) const;
+
+    /**
+     * Fills `rect` with a vertical gradient that is cached per size and pair of colours.
+     *
+     * `transparent` says that the colours may let the background through; it makes no difference to the picture.
+     */
+    void drawGradient(QPainter *painter, const QRect &rect, const QColor &topColor, const QColor &bottomColor,
+                      bool transparent) const;
+
+    /** `factor` percent (0 to 100) of colorA in colorB, per channel, truncated; the alpha is colorA's. */
+    QColor mergedColors(const QColor &colorA, const QColor &colorB, int factor) const;
+
+    /** `rect` with round corners; `radius` is the side of the corner arc's bounding box, twice the arc's true radius.
+     */
+    QPainterPath getRoundRectPath(const QRect &rect, int radius) const;
+
+    /** The path of getRoundRectPath for direction 0, an empty path for any other. */
+    QPainterPath getRoundRectWithArrowPath(const QRect &rect, int radius, int direction) const;
+
+    /** QStyle::drawItemText for the labels of tabs: without antialiasing. An empty text changes nothing. */
+    void drawTabItemText(QPainter *painter, const QRect &rect, int alignment, const QPalette &palette, bool enabled,
+                         const QString &text, QPalette::ColorRole textRole) const;
+
+private:
+    Q_DISABLE_COPY(CCommonControlStyle)
+
+    void drawPanelButtonCommand(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const;
+
+    void drawPushButtonBevel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawPushButtonFace(const QStyleOptionButton *option, const QRect &face, QPainter *painter,
+                            const QWidget *widget) const;
+    void drawPushButtonChevron(const QStyleOptionButton *option, const QRect &face, QPainter *painter,
+                               const CButtonEx *button) const;
+    void drawPushButtonLabel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawHouseButtonLabel(const QStyleOptionButton *option, QPainter *painter, const CButtonEx *button) const;
+
+    std::unique_ptr<QStyle> m_pNativeStyle; // draws the face of a push button that is no CButtonEx
+    qint64 m_iGivenPaletteKey = 0;          // the palette that this style gave to the application
+};

@@ -1,0 +1,23 @@
+// Small marks: arrows.
+#include "CC4Styles/CommonControlStyle.h"
+
+#include "UiGraphics.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+// A triangle of shrinking rows at the right end of the rectangle. Its height counts from the painter's origin: callers
+// give rectangles that are placed for it.
+void CCommonControlStyle::drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const
+{
+    QColor color = UIGGetColor(QStringLiteral("UIGCLR_INDICATOR_ARROW"));
+    color.setAlpha(0xB4);
+    const int right = option->rect.right();
+    const int top = option->rect.height() / 2;
+    painter->save();
+    painter->setPen(color);
+    for (int row = 0; row < 4; ++row)
+        painter->drawLine(right - 14 + row, top + row, right - 6 - row, top + row);
+    painter->drawPoint(right - 10, top + 4);
+    painter->restore();
+}

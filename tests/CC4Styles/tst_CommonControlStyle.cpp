@@ -1,0 +1,294 @@
+#include "helpers/HouseTest.h"
+
+#include "CC4Styles/CommonControlStyle.h"
+#include "CC4Styles/PaintTools.h"
+
+#include <QApplication>
+#include <QPixmapCache>
+#include <QPushButton>
+#include <QStyleFactory>
+
+class tst_CommonControlStyle : public HouseTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void paletteComesFromTheRegistry_data();
+    void paletteComesFromTheRegistry();
+    void paletteGoesWithTheStyle();
+    void paletteOfTheApplicationWins();
+    void menuEffectsAreOff();
+    void focusIsNotFramed();
+    void arrowDownIsATriangle();
+    void uniqueNameTellsStates();
+    void picturesAreDrawnOncePerKey();
+    void picturesAreCrispOnEveryRatio();
+    void gradientIsCachedByColoursAndSize();
+    void mergedColors_data();
+    void mergedColors();
+    void roundRectPath();
+    void itemTextIsAntialiased();
+    void tabItemText();
+
+private:
+    const CCommonControlStyle &house() const { return *m_style; }
+    CCommonControlStyle *m_style = nullptr;
+};
+
+void tst_CommonControlStyle::initTestCase()
+{
+    m_style = new CCommonControlStyle;
+    QApplication::setStyle(m_style);
+}
+
+void tst_CommonControlStyle::paletteComesFromTheRegistry_data()
+{
+    QTest::addColumn<int>("group");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QString>("color");
+    const auto row = [](const char *name, QPalette::ColorGroup group, QPalette::ColorRole role, const char *color) {
+        QTest::newRow(name) << static_cast<int>(group) << static_cast<int>(role) << QString::fromLatin1(color);
+    };
+    row("disabled text", QPalette::Disabled, QPalette::Text, "#c7c7c7");
+    row("disabled foreground", QPalette::Disabled, QPalette::WindowText, "#808080");
+    row("disabled dark", QPalette::Disabled, QPalette::Dark, "#555555");
+    row("disabled base", QPalette::Disabled, QPalette::Base, "#efefef");
+    row("active text", QPalette::Active, QPalette::Text, "#000000");
+    row("active button", QPalette::Active, QPalette::Button, "#dddfe4");
+    row("active midlight", QPalette::Active, QPalette::Midlight, "#ecedec");
+    row("active highlight", QPalette::Active, QPalette::Highlight, "#0065b1");
+    row("inactive foreground", QPalette::Inactive, QPalette::WindowText, "#444444");
+    row("inactive mid", QPalette::Inactive, QPalette::Mid, "#dadadb");
+    row("inactive link visited", QPalette::Inactive, QPalette::LinkVisited, "#52188b");
+}
+
+void tst_CommonControlStyle::paletteComesFromTheRegistry()
+{
+    QFETCH(int, group);
+    QFETCH(int, role);
+    QFETCH(QString, color);
+    const auto colorOf = [=](const QPalette &palette) {
+        return palette.color(static_cast<QPalette::ColorGroup>(group), static_cast<QPalette::ColorRole>(role)).name();
+    };
+    QCOMPARE(colorOf(house().standardPalette()), color);
+    QCOMPARE(colorOf(QApplication::palette()), color);
+}
+
+void tst_CommonControlStyle::paletteGoesWithTheStyle()
+{
+    const QPalette house = QApplication::palette();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QVERIFY(QApplication::palette().color(QPalette::Button) != house.color(QPalette::Button));
+    QVERIFY(!QCoreApplication::testAttribute(Qt::AA_SetPalette));
+    initTestCase();
+    QCOMPARE(QApplication::palette().color(QPalette::Button), house.color(QPalette::Button));
+
+    QPalette anything(Qt::green);
+    const qint64 before = anything.cacheKey();
+    m_style->polish(anything);
+    QCOMPARE(anything.cacheKey(), before);
+}
+
+void tst_CommonControlStyle::paletteOfTheApplicationWins()
+{
+    QApplication::setPalette(QPalette(Qt::green));
+    initTestCase();
+    QCOMPARE(QApplication::palette().color(QPalette::Button), QColor(Qt::green));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QCOMPARE(QApplication::palette().color(QPalette::Button), QColor(Qt::green));
+    QApplication::setPalette(QPalette());
+    initTestCase();
+    QCOMPARE(QApplication::palette().color(QPalette::Button), QColor(0xDD, 0xDF, 0xE4));
+}
+
+void tst_CommonControlStyle::menuEffectsAreOff()
+{
+    QApplication::setEffectEnabled(Qt::UI_AnimateMenu, true);
+    QApplication::setEffectEnabled(Qt::UI_FadeMenu, true);
+    const CCommonControlStyle style;
+    QVERIFY(!QApplication::isEffectEnabled(Qt::UI_AnimateMenu));
+    QVERIFY(!QApplication::isEffectEnabled(Qt::UI_FadeMenu));
+}
+
+void tst_CommonControlStyle::focusIsNotFramed()
+{
+    QStyleOptionFocusRect option;
+    option.rect = QRect(0, 0, 20, 20);
+    option.state = QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    const QImage image = Picture::of(option.rect.size(), [&](QPainter *painter) {
+        house().drawPrimitive(QStyle::PE_FrameFocusRect, &option, painter, nullptr);
+    });
+    QVERIFY(!Picture::paintsOutside(image, QRect()));
+}
+
+void tst_CommonControlStyle::arrowDownIsATriangle()
+{
+    QStyleOption option;
+    option.rect = QRect(3, 7, 17, 10);
+    const QImage image = Picture::of(QSize(24, 24), [&](QPainter *painter) {
+        painter->setPen(Qt::red);
+        house().drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, painter, nullptr);
+        QCOMPARE(painter->pen().color(), QColor(Qt::red));
+    });
+    // Rows count from half the rectangle's height, without its top; columns from its right edge, 19.
+    QStringList rows;
+    for (int y = 5; y < 10; ++y) {
+        QString row;
+        for (int x = 4; x < 15; ++x)
+            row += qAlpha(image.pixel(x, y)) == 0xB4 ? QLatin1Char('#') : QLatin1Char('.');
+        rows.append(row);
+    }
+    QCOMPARE(rows, QStringList() << QStringLiteral(".#########.") << QStringLiteral("..#######..")
+                                 << QStringLiteral("...#####...") << QStringLiteral("....###....")
+                                 << QStringLiteral(".....#....."));
+    QVERIFY(!Picture::paintsOutside(image, QRect(5, 5, 9, 5)));
+}
+
+void tst_CommonControlStyle::uniqueNameTellsStates()
+{
+    QStyleOptionButton button;
+    button.state = QStyle::State_Enabled | QStyle::State_MouseOver;
+    const QString paletteKey = QString::number(button.palette.cacheKey());
+    QCOMPARE(house().uniqueName(QStringLiteral("checkbox"), &button, QSize(16, 17)),
+             QStringLiteral("checkbox-%1-0-%2-16x17").arg(static_cast<int>(button.state)).arg(paletteKey));
+
+    QStyleOptionSpinBox spinBox;
+    spinBox.state = QStyle::State_None;
+    spinBox.palette = button.palette;
+    spinBox.activeSubControls = QStyle::SC_SpinBoxDown;
+    QCOMPARE(house().uniqueName(QStringLiteral("spinbox"), &spinBox, QSize(1, 2)),
+             QStringLiteral("spinbox-0-2-%1-1x2").arg(paletteKey));
+}
+
+void tst_CommonControlStyle::picturesAreDrawnOncePerKey()
+{
+    QPixmapCache::clear();
+    int drawn = 0;
+    const auto draw = [&drawn](QPainter *painter, const QRect &area) {
+        ++drawn;
+        painter->fillRect(area, Qt::blue);
+    };
+    const auto paint = [&](const QSize &size, const QString &key) {
+        return Picture::of(QSize(10, 10), [&](QPainter *painter) {
+            PaintTools::drawCachedPicture(painter, QPoint(2, 3), size, key, draw);
+        });
+    };
+    const QImage image = paint(QSize(4, 5), QStringLiteral("a"));
+    QCOMPARE(Picture::colorAt(image, 2, 3), QStringLiteral("#ff0000ff"));
+    QVERIFY(!Picture::paintsOutside(image, QRect(2, 3, 4, 5)));
+    QCOMPARE(paint(QSize(4, 5), QStringLiteral("a")), image);
+    QCOMPARE(drawn, 1);
+    QPixmap cached;
+    QVERIFY(QPixmapCache::find(QStringLiteral("a"), &cached));
+    paint(QSize(4, 5), QStringLiteral("b"));
+    QCOMPARE(drawn, 2);
+    paint(QSize(0, 5), QStringLiteral("c")); // nothing to draw, and no complaint
+    QCOMPARE(drawn, 2);
+}
+
+void tst_CommonControlStyle::picturesAreCrispOnEveryRatio()
+{
+    QPixmapCache::clear();
+    const auto draw = [](QPainter *painter, const QRect &area) {
+        painter->fillRect(QRectF(area).adjusted(0.5, 0, 0, 0), Qt::blue);
+    };
+    const QImage image = Picture::of(
+        QSize(4, 4),
+        [&](QPainter *painter) {
+            PaintTools::drawCachedPicture(painter, QPoint(), QSize(4, 4), QStringLiteral("ratio"), draw);
+        },
+        2.0);
+    QCOMPARE(Picture::colorAt(image, 0, 0), QStringLiteral("#00000000"));
+    QCOMPARE(Picture::colorAt(image, 1, 0), QStringLiteral("#ff0000ff"));
+    QPixmap cached;
+    QVERIFY(!QPixmapCache::find(QStringLiteral("ratio"), &cached));
+    QVERIFY(QPixmapCache::find(QStringLiteral("ratio@2"), &cached));
+}
+
+void tst_CommonControlStyle::gradientIsCachedByColoursAndSize()
+{
+    QPixmapCache::clear();
+    const QRect rect(1, 2, 3, 101);
+    const auto paint = [&](bool transparent) {
+        return Picture::of(QSize(8, 110), [&](QPainter *painter) {
+            house().drawGradient(painter, rect, Qt::white, QColor(0, 0, 0, 0), transparent);
+        });
+    };
+    const QImage image = paint(false);
+    QVERIFY(qAlpha(image.pixel(1, 2)) > 250);
+    QVERIFY(qAlpha(image.pixel(3, 102)) < 5);
+    QVERIFY(qAbs(qAlpha(image.pixel(2, 52)) - 128) < 4);
+    QVERIFY(!Picture::paintsOutside(image, rect));
+    QCOMPARE(paint(true), image);
+    QPixmap cached;
+    QVERIFY(QPixmapCache::find(QStringLiteral("3x101-ffffffff-0"), &cached));
+}
+
+void tst_CommonControlStyle::mergedColors_data()
+{
+    QTest::addColumn<QColor>("a");
+    QTest::addColumn<QColor>("b");
+    QTest::addColumn<int>("factor");
+    QTest::addColumn<QColor>("merged");
+    const QColor half(10, 20, 30, 40);
+    QTest::newRow("none of a") << QColor(Qt::white) << half << 0 << QColor(10, 20, 30, 255);
+    QTest::newRow("all of a, alpha kept") << half << QColor(Qt::white) << 100 << half;
+    QTest::newRow("half, truncated") << QColor(Qt::white) << QColor(Qt::black) << 50 << QColor(127, 127, 127);
+    QTest::newRow("each term truncated") << QColor(1, 3, 5) << QColor(1, 3, 5) << 50 << QColor(0, 2, 4);
+}
+
+void tst_CommonControlStyle::mergedColors()
+{
+    QFETCH(QColor, a);
+    QFETCH(QColor, b);
+    QFETCH(int, factor);
+    QFETCH(QColor, merged);
+    QCOMPARE(house().mergedColors(a, b, factor).rgba(), merged.rgba());
+}
+
+void tst_CommonControlStyle::roundRectPath()
+{
+    const QRect rect(10, 20, 31, 21); // to (40, 40)
+    const QPainterPath path = house().getRoundRectPath(rect, 10);
+    QCOMPARE(path.boundingRect(), QRectF(10, 20, 30, 20));
+    QCOMPARE(QPointF(path.elementAt(0)), QPointF(40, 30));
+    QVERIFY(!path.contains(QPointF(10.5, 20.5)) && !path.contains(QPointF(39.5, 39.5)));
+    QVERIFY(path.contains(QPointF(11.5, 25)) && path.contains(QPointF(25, 20.5)));
+
+    QCOMPARE(house().getRoundRectWithArrowPath(rect, 10, 0), path);
+    QVERIFY(house().getRoundRectWithArrowPath(rect, 10, 1).isEmpty());
+}
+
+void tst_CommonControlStyle::itemTextIsAntialiased()
+{
+    const QImage image = Picture::of(QSize(80, 20), [&](QPainter *painter) {
+        const QPalette palette = house().standardPalette();
+        house().drawItemText(painter, QRect(0, 0, 80, 20), Qt::AlignCenter, palette, true, QStringLiteral("Print"),
+                             QPalette::Highlight);
+        QVERIFY(painter->testRenderHint(QPainter::Antialiasing));
+    });
+    QVERIFY(Picture::paintsOutside(image, QRect(0, 0, 10, 20)));
+}
+
+void tst_CommonControlStyle::tabItemText()
+{
+    const QPalette palette = house().standardPalette();
+    const QRect rect(0, 0, 80, 20);
+    const auto paint = [&](const QString &text, bool enabled) {
+        return Picture::of(rect.size(), [&](QPainter *painter) {
+            painter->setPen(Qt::red);
+            house().drawTabItemText(painter, rect, Qt::AlignCenter, palette, enabled, text, QPalette::WindowText);
+            QCOMPARE(painter->pen().color(), QColor(Qt::red));
+            QVERIFY(!painter->testRenderHint(QPainter::Antialiasing));
+        });
+    };
+    QVERIFY(!Picture::paintsOutside(paint(QString(), true), QRect()));
+    const QImage enabled = paint(QStringLiteral("Print"), true);
+    QVERIFY(Picture::paintsOutside(enabled, QRect()));
+    if (house().styleHint(QStyle::SH_EtchDisabledText) != 0)
+        QVERIFY(paint(QStringLiteral("Print"), false) != enabled); // etched: drawn twice
+}
+
+HOUSE_TEST_MAIN(tst_CommonControlStyle)
+#include "tst_CommonControlStyle.moc"

@@ -1,0 +1,583 @@
+// Faces, bevel and label of push buttons, with bitmaps of one plain colour each, so that every pixel tells its slice.
+#include "helpers/HouseTest.h"
+
+#include "ButtonEx/ButtonEx.h"
+#include "CC4Styles/CommonControlStyle.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmapCache>
+#include <QTemporaryDir>
+
+namespace {
+
+/** Records the label's text instead of drawing it. */
+class RecordingStyle : public CCommonControlStyle
+{
+public:
+    void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette, bool enabled,
+                      const QString &text, QPalette::ColorRole role) const override
+    {
+        texts.append(text);
+        textRect = rect;
+        textFlags = flags;
+        textPalette = palette;
+        textEnabled = enabled;
+        textRole = role;
+        textFont = painter->font();
+    }
+
+    mutable QStringList texts;
+    mutable QRect textRect;
+    mutable int textFlags = 0;
+    mutable QPalette textPalette;
+    mutable bool textEnabled = false;
+    mutable QPalette::ColorRole textRole = QPalette::NoRole;
+    mutable QFont textFont;
+};
+
+// Heights of 10; scaled to a button of height 20 the caps are 10 and 12 wide.
+constexpr int leftCap = 10;
+constexpr int rightCap = 12;
+const QSize buttonSize(100, 20);
+
+const QColor restingLeft(1, 0, 0);
+const QColor restingRight(2, 0, 0);
+const QColor restingMiddle(3, 0, 0);
+const QColor pressedLeft(4, 0, 0);
+const QColor pressedRight(5, 0, 0);
+const QColor pressedMiddle(6, 0, 0);
+const QColor imageColor(0, 200, 0);
+const QColor nothing(0, 0, 0, 0);
+
+void saveSlice(const QDir &directory, const QString &name, int width, const QColor &color)
+{
+    QImage image(width, 10, QImage::Format_ARGB32);
+    image.fill(color);
+    QVERIFY(image.save(directory.filePath(name + QStringLiteral(".png"))));
+}
+
+QPixmap imageOf(int width, int height, const QColor &color = imageColor)
+{
+    QPixmap pixmap(width, height);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+QStyleOptionButton optionFor(const QWidget &widget, const QString &text = QString(),
+                             QStyle::State state = QStyle::State_Enabled)
+{
+    QStyleOptionButton option;
+    option.initFrom(&widget);
+    option.rect = QRect(QPoint(0, 0), buttonSize);
+    option.state = state;
+    option.text = text;
+    return option;
+}
+
+constexpr auto lit = QStyle::State_Enabled | QStyle::State_MouseOver;
+constexpr auto sunken = QStyle::State_Enabled | QStyle::State_Sunken;
+
+} // namespace
+
+Q_DECLARE_METATYPE(QStyle::State)
+
+class tst_PushButtonPainters : public HouseTest
+{
+    Q_OBJECT
+
+public:
+    tst_PushButtonPainters();
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void restingFace_data();
+    void restingFace();
+    void pressedFace();
+    void highlight_data();
+    void highlight();
+    void disabledFaceIsFaded();
+    void imagePlace_data();
+    void imagePlace();
+    void imagesAreNotShared();
+    void faceWithoutWidget();
+    void wrongOptionPaintsNothing();
+    void panelOfOtherWidgets();
+    void transparentFace();
+    void glowingFace();
+    void flatButtons();
+    void chevron();
+    void autoDefaultShrinksFace();
+    void plainButtonHasOneLabel();
+    void labelColours_data();
+    void labelColours();
+    void labelPlace_data();
+    void labelPlace();
+    void everyStateAndSizeIsSafe();
+
+private:
+    QImage face(CButtonEx &button, const QStyleOptionButton &option) const;
+    QImage control(QStyle::ControlElement element, const QWidget &button, const QStyleOptionButton &option) const;
+
+    QTemporaryDir m_graphics;
+    std::unique_ptr<RecordingStyle> m_style;
+};
+
+tst_PushButtonPainters::tst_PushButtonPainters()
+{
+    qputenv("ZEL_GRAPHICS_DIR", m_graphics.path().toLocal8Bit());
+}
+
+void tst_PushButtonPainters::initTestCase()
+{
+    const QDir directory(m_graphics.path());
+    for (const char *color : {"White", "Green", "Blue"}) {
+        const QString name = QStringLiteral("Pushbutton") + QLatin1String(color);
+        saveSlice(directory, name + QStringLiteral("LeftCap"), leftCap / 2, restingLeft);
+        saveSlice(directory, name + QStringLiteral("RightCap"), rightCap / 2, restingRight);
+        saveSlice(directory, name + QStringLiteral("Blit"), 4, restingMiddle);
+        saveSlice(directory, name + QStringLiteral("PressedLeftCap"), leftCap / 2, pressedLeft);
+        saveSlice(directory, name + QStringLiteral("PressedRightCap"), rightCap / 2, pressedRight);
+        saveSlice(directory, name + QStringLiteral("PressedBlit"), 4, pressedMiddle);
+    }
+    m_style = std::make_unique<RecordingStyle>();
+}
+
+void tst_PushButtonPainters::init()
+{
+    HouseTest::init();
+    QPixmapCache::clear();
+    m_style->texts.clear();
+}
+
+QImage tst_PushButtonPainters::face(CButtonEx &button, const QStyleOptionButton &option) const
+{
+    return Picture::of(option.rect.size(), [&](QPainter *painter) {
+        m_style->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, painter, &button);
+    });
+}
+
+QImage tst_PushButtonPainters::control(QStyle::ControlElement element, const QWidget &button,
+                                       const QStyleOptionButton &option) const
+{
+    return Picture::of(option.rect.size(),
+                       [&](QPainter *painter) { m_style->drawControl(element, &option, painter, &button); });
+}
+
+void tst_PushButtonPainters::restingFace_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::addColumn<int>("middleEnd"); // first column behind the middle
+    QTest::newRow("white") << static_cast<int>(CButtonEx::BSEX_Normal) << 100 - 1 - rightCap;
+    QTest::newRow("green") << static_cast<int>(CButtonEx::BSEX_Active) << 100 - 1 - rightCap;
+    QTest::newRow("blue, whose middle covers a column of the cap")
+        << static_cast<int>(CButtonEx::BSEX_Tray) << 100 - rightCap;
+}
+
+void tst_PushButtonPainters::restingFace()
+{
+    QFETCH(int, look);
+    QFETCH(int, middleEnd);
+    CButtonEx button;
+    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    const QImage image = face(button, optionFor(button));
+    for (int y : {0, 10, 19}) {
+        QCOMPARE(image.pixelColor(0, y), restingLeft);
+        QCOMPARE(image.pixelColor(leftCap - 1, y), restingLeft);
+        QCOMPARE(image.pixelColor(leftCap, y), restingMiddle);
+        QCOMPARE(image.pixelColor(middleEnd - 1, y), restingMiddle);
+        QCOMPARE(image.pixelColor(middleEnd, y), restingRight);
+        QCOMPARE(image.pixelColor(98, y), restingRight);
+        QCOMPARE(image.pixelColor(99, y), nothing);
+    }
+}
+
+void tst_PushButtonPainters::pressedFace()
+{
+    CButtonEx button;
+    for (const auto state : {sunken, QStyle::State_Enabled | QStyle::State_On, sunken | QStyle::State_MouseOver}) {
+        const QImage image = face(button, optionFor(button, QString(), state));
+        QCOMPARE(image.pixelColor(0, 0), pressedLeft);
+        QCOMPARE(image.pixelColor(leftCap, 10), pressedMiddle);
+        QCOMPARE(image.pixelColor(99 - rightCap, 10), pressedMiddle); // over the cap's first column
+        QCOMPARE(image.pixelColor(100 - rightCap, 19), pressedRight);
+        QCOMPARE(image.pixelColor(99, 10), nothing);
+    }
+}
+
+void tst_PushButtonPainters::highlight_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::addColumn<QStyle::State>("state");
+    QTest::newRow("hovered white") << static_cast<int>(CButtonEx::BSEX_Normal) << QStyle::State(lit);
+    QTest::newRow("focused green") << static_cast<int>(CButtonEx::BSEX_Active)
+                                   << (QStyle::State_Enabled | QStyle::State_HasFocus);
+    QTest::newRow("hovered blue") << static_cast<int>(CButtonEx::BSEX_Tray) << QStyle::State(lit);
+}
+
+void tst_PushButtonPainters::highlight()
+{
+    QFETCH(int, look);
+    QFETCH(QStyle::State, state);
+    CButtonEx button;
+    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    const QImage image = face(button, optionFor(button, QString(), state));
+    const QColor top(0xFF, 0xDA, 0xB2);
+    const QColor bottom(0xF7, 0x94, 0x1D);
+    QCOMPARE(image.pixelColor(50, 0), top);
+    QCOMPARE(image.pixelColor(50, 1), top);
+    QCOMPARE(image.pixelColor(50, 2), restingMiddle);
+    QCOMPARE(image.pixelColor(50, 17), restingMiddle);
+    QCOMPARE(image.pixelColor(50, 18), bottom);
+    QCOMPARE(image.pixelColor(99, 19), bottom);
+    // Bands: two columns at the left, three at the right, from one colour to the other.
+    for (int x : {0, 1, 97, 98, 99}) {
+        const int green = image.pixelColor(x, 10).green();
+        QVERIFY2(green < top.green() && green > bottom.green(), qPrintable(Picture::colorAt(image, x, 10)));
+    }
+    QCOMPARE(image.pixelColor(2, 10), restingLeft);
+    QCOMPARE(image.pixelColor(96, 10), restingRight);
+}
+
+void tst_PushButtonPainters::disabledFaceIsFaded()
+{
+    CButtonEx button;
+    const QImage image = face(button, optionFor(button, QString(), QStyle::State_Sunken | QStyle::State_MouseOver));
+    QCOMPARE(qAlpha(image.pixel(50, 10)), 0x99);
+    QVERIFY(qAbs(image.pixelColor(50, 10).red() - restingMiddle.red()) <= 1); // resting, whatever the state says
+    QCOMPARE(qAlpha(image.pixel(50, 0)), 0x99);
+    QVERIFY(image.pixelColor(50, 0).green() == 0); // no highlight
+}
+
+void tst_PushButtonPainters::imagePlace_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStyle::State>("state");
+    QTest::addColumn<int>("imageWidth");
+    QTest::addColumn<QList<int>>("columns"); // at which a row of the image begins
+    const auto row = [](const char *name, CButtonEx::CButtonStyles look, const char *text, QStyle::State state,
+                        int width, const QList<int> &columns) {
+        QTest::newRow(name) << static_cast<int>(look) << QString::fromLatin1(text) << state << width << columns;
+    };
+    const QStyle::State resting = QStyle::State_Enabled;
+    row("white, centred", CButtonEx::BSEX_Normal, "", resting, 9, {45});
+    row("white, beside text", CButtonEx::BSEX_Normal, "Text", resting, 9, {10});
+    row("white, pressed, centred", CButtonEx::BSEX_Normal, "", sunken, 9, {45});
+    row("green, beside text, narrow", CButtonEx::BSEX_Active, "Text", resting, 9, {20});
+    row("green, pressed, always in its place beside text", CButtonEx::BSEX_Active, "", sunken, 9, {20});
+    row("blue, beside text, narrow", CButtonEx::BSEX_Tray, "Text", resting, 9, {20});
+}
+
+void tst_PushButtonPainters::imagePlace()
+{
+    QFETCH(int, look);
+    QFETCH(QString, text);
+    QFETCH(QStyle::State, state);
+    QFETCH(int, imageWidth);
+    QFETCH(QList<int>, columns);
+    CButtonEx button;
+    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    button.setPixmap(imageOf(imageWidth, 5));
+    const QImage image = face(button, optionFor(button, text, state));
+    QList<int> begins;
+    for (int x = 1; x < image.width(); ++x) {
+        if (image.pixelColor(x, 9) == imageColor && image.pixelColor(x - 1, 9) != imageColor)
+            begins.append(x);
+    }
+    QCOMPARE(begins, columns);
+    QCOMPARE(image.pixelColor(columns.first(), 7), imageColor); // (20 - 5) / 2
+    QVERIFY(image.pixelColor(columns.first(), 6) != imageColor);
+
+    // From a width of 110 on the narrow inset gives way.
+    QStyleOptionButton wide = optionFor(button, QStringLiteral("Text"));
+    wide.rect.setWidth(118);
+    QCOMPARE(face(button, wide).pixelColor(10, 9), imageColor);
+}
+
+void tst_PushButtonPainters::imagesAreNotShared()
+{
+    CButtonEx first;
+    CButtonEx second;
+    first.setPixmap(imageOf(9, 5, Qt::red));
+    second.setPixmap(imageOf(9, 5, Qt::blue));
+    const QStyleOptionButton option = optionFor(first);
+    QCOMPARE(face(first, option).pixelColor(50, 10), QColor(Qt::red));
+    QCOMPARE(face(second, option).pixelColor(50, 10), QColor(Qt::blue));
+    QCOMPARE(face(second, optionFor(first, QStringLiteral("Text"))).pixelColor(12, 10), QColor(Qt::blue));
+
+    CButtonEx bare;
+    QCOMPARE(face(bare, option).pixelColor(50, 10), restingMiddle);
+    QPixmap cached;
+    QVERIFY(QPixmapCache::find(m_style->uniqueName(QStringLiteral("panelbuttoncommand"), &option, buttonSize),
+                               &cached)); // without an image the key is the plain one
+    QCOMPARE(face(first, option).pixelColor(50, 10), QColor(Qt::red));
+}
+
+void tst_PushButtonPainters::faceWithoutWidget()
+{
+    const CButtonEx button;
+    const QStyleOptionButton option = optionFor(button, QString(), lit);
+    const auto draw = [&](const QWidget *widget) {
+        return Picture::of(buttonSize,
+                           [&](QPainter *painter) { m_style->drawNormalPushButton(&option, painter, widget); });
+    };
+    QCOMPARE(draw(&button).pixelColor(99, 19), QColor(0xF7, 0x94, 0x1D));
+    const QImage image = draw(nullptr);
+    QCOMPARE(image.pixelColor(99, 10), option.palette.color(QPalette::Window));
+    QCOMPARE(image.pixelColor(50, 0), restingMiddle); // no highlight
+    const QWidget other;
+    QCOMPARE(draw(&other).pixelColor(50, 0), restingMiddle);
+}
+
+void tst_PushButtonPainters::wrongOptionPaintsNothing()
+{
+    CButtonEx button;
+    QStyleOption option;
+    option.rect = QRect(QPoint(0, 0), buttonSize);
+    for (int look : {0, 1, 2, 4, 8, 16}) {
+        button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+        const QImage image = Picture::of(buttonSize, [&](QPainter *painter) {
+            m_style->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, painter, &button);
+            m_style->drawControl(QStyle::CE_PushButtonBevel, &option, painter, &button);
+        });
+        QVERIFY(!Picture::paintsOutside(image, QRect()));
+    }
+}
+
+void tst_PushButtonPainters::panelOfOtherWidgets()
+{
+    const QPushButton plain;
+    const QStyleOptionButton option = optionFor(plain);
+    const auto draw = [&](const QWidget *widget) {
+        return Picture::of(buttonSize, [&](QPainter *painter) {
+            m_style->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, painter, widget);
+            m_style->drawTransparentPushButton(&option, painter, widget);
+            m_style->drawGlowingPushButton(&option, painter, widget);
+        });
+    };
+    QVERIFY(!Picture::paintsOutside(draw(&plain), QRect()));
+    QVERIFY(!Picture::paintsOutside(draw(nullptr), QRect()));
+    CButtonEx tertiary;
+    tertiary.setButtonStyle(CButtonEx::BSEX_Tertiary);
+    QVERIFY(!Picture::paintsOutside(face(tertiary, option), QRect()));
+}
+
+void tst_PushButtonPainters::transparentFace()
+{
+    CButtonEx button;
+    button.setButtonStyle(CButtonEx::BSEX_Transparent);
+    button.setPixmap(imageOf(10, 10));
+    QImage image = face(button, optionFor(button));
+    QVERIFY(!Picture::paintsOutside(image, QRect(45, 5, 10, 10)));
+    QCOMPARE(image.pixelColor(45, 5), imageColor);
+    image = face(button, optionFor(button, QStringLiteral("Text")));
+    QVERIFY(!Picture::paintsOutside(image, QRect(0, 5, 10, 10)));
+}
+
+void tst_PushButtonPainters::glowingFace()
+{
+    CButtonEx button;
+    button.setButtonStyle(CButtonEx::BSEX_Glowing);
+    button.setPixmap(imageOf(10, 10));
+    QStyleOptionButton option = optionFor(button);
+    option.rect = QRect(0, 0, 120, 90);
+    const QRect imageRect((120 - 14 - 10) / 2, (90 - 15 - 10) / 2, 10, 10);
+    QImage image = face(button, option);
+    QCOMPARE(image.pixelColor(imageRect.topLeft()), imageColor);
+    QVERIFY(!Picture::paintsOutside(image, imageRect)); // no glow, no outline
+
+    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QCoreApplication::sendEvent(&button, &enter);
+    QTRY_VERIFY(button.getGlowAlpha() > 0.95F);
+    image = face(button, option);
+    // Core in the middle, fading outwards over 25 pixels on all sides.
+    const QColor core = image.pixelColor(30, 60);
+    QVERIFY2(qAbs(core.alpha() - 179) < 20, qPrintable(core.name(QColor::HexArgb)));
+    QVERIFY(qAbs(core.red() - 0xB4) <= 2 && qAbs(core.green() - 0xDC) <= 2 && core.blue() >= 0xFD);
+    for (const QPoint &towardsEdge : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
+        const QPoint centre(60, 45);
+        const auto at = [&](int fromEdge) {
+            const QPoint reach(60 - fromEdge, 45 - fromEdge);
+            return image.pixelColor(centre + QPoint(towardsEdge.x() * reach.x(), towardsEdge.y() * reach.y())).alpha();
+        };
+        QVERIFY(at(4) < at(12) && at(12) < at(20));
+    }
+    QVERIFY(image.pixelColor(4, 4).alpha() < 40);
+}
+
+void tst_PushButtonPainters::flatButtons()
+{
+    CButtonEx button;
+    QStyleOptionButton option = optionFor(button);
+    option.features = QStyleOptionButton::Flat;
+    QVERIFY(!Picture::paintsOutside(control(QStyle::CE_PushButtonBevel, button, option), QRect()));
+    option.state |= QStyle::State_On;
+    QCOMPARE(control(QStyle::CE_PushButtonBevel, button, option).pixelColor(50, 10), pressedMiddle);
+}
+
+void tst_PushButtonPainters::chevron()
+{
+    CButtonEx button;
+    button.setChevron(true);
+    QStyleOptionButton option = optionFor(button);
+    QCOMPARE(control(QStyle::CE_PushButtonBevel, button, option), face(button, option)); // bitmap looks have none
+
+    button.setButtonStyle(CButtonEx::BSEX_Transparent);
+    option.rect = QRect(0, 0, 100, 60);
+    const QImage image = control(QStyle::CE_PushButtonBevel, button, option);
+    // The arrow's rectangle ends one column before the face's right edge and is 56 high; the arrow starts at half of
+    // that.
+    QCOMPARE(qAlpha(image.pixel(98 - 10, 28)), 0xB4);
+    QCOMPARE(qAlpha(image.pixel(98 - 10, 32)), 0xB4);
+    QVERIFY(!Picture::paintsOutside(image, QRect(98 - 14, 28, 9, 5)));
+    button.setChevron(false);
+    QVERIFY(!Picture::paintsOutside(control(QStyle::CE_PushButtonBevel, button, option), QRect()));
+}
+
+void tst_PushButtonPainters::autoDefaultShrinksFace()
+{
+    class IndicatorStyle : public RecordingStyle
+    {
+    public:
+        int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+        {
+            return metric == PM_ButtonDefaultIndicator ? 3 : RecordingStyle::pixelMetric(metric, option, widget);
+        }
+    };
+    const IndicatorStyle style;
+    const CButtonEx button;
+    QStyleOptionButton option = optionFor(button);
+    option.features = QStyleOptionButton::AutoDefaultButton;
+    const QImage image = Picture::of(buttonSize, [&](QPainter *painter) {
+        style.drawControl(QStyle::CE_PushButtonBevel, &option, painter, &button);
+    });
+    QVERIFY(!Picture::paintsOutside(image, QRect(3, 3, 94, 14)));
+    QCOMPARE(image.pixelColor(3, 3), restingLeft);
+}
+
+void tst_PushButtonPainters::plainButtonHasOneLabel()
+{
+    const QPushButton plain;
+    QStyleOptionButton option = optionFor(plain, QStringLiteral("Text"));
+    const QImage image = control(QStyle::CE_PushButton, plain, option);
+    QVERIFY(Picture::paintsOutside(image, QRect())); // a native face
+    QCOMPARE(m_style->texts, QStringList(QStringLiteral("Text")));
+    QCOMPARE(m_style->textRect, m_style->subElementRect(QStyle::SE_PushButtonContents, &option, &plain));
+    QVERIFY(m_style->textFlags == 0x884 || m_style->textFlags == 0x8884);
+
+    option.icon = QIcon(imageOf(16, 16));
+    option.iconSize = QSize(16, 16);
+    const QImage withIcon = control(QStyle::CE_PushButtonLabel, plain, option);
+    QVERIFY(Picture::paintsOutside(withIcon, QRect())); // the icon of a plain button is not lost
+    QCOMPARE(static_cast<int>(m_style->texts.size()), 2);
+}
+
+void tst_PushButtonPainters::labelColours_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::addColumn<QString>("active");
+    QTest::addColumn<QString>("disabled");
+    const auto row = [](const char *name, CButtonEx::CButtonStyles look, const char *active, const char *disabled) {
+        QTest::newRow(name) << static_cast<int>(look) << QString::fromLatin1(active) << QString::fromLatin1(disabled);
+    };
+    row("white", CButtonEx::BSEX_Normal, "#c8000000", "#3c000000");
+    row("transparent", CButtonEx::BSEX_Transparent, "#ff123456", "#ff123456");
+    row("glowing", CButtonEx::BSEX_Glowing, "#ffffffff", "#ffffffff");
+    row("green", CButtonEx::BSEX_Active, "#ffffffff", "#ff808080");
+    row("blue", CButtonEx::BSEX_Tray, "#ffffffff", "#ff808080");
+}
+
+void tst_PushButtonPainters::labelColours()
+{
+    QFETCH(int, look);
+    QFETCH(QString, active);
+    QFETCH(QString, disabled);
+    CButtonEx button;
+    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    button.setTextColor(QColor(0x12, 0x34, 0x56));
+    control(QStyle::CE_PushButtonLabel, button, optionFor(button, QStringLiteral("Text")));
+    QCOMPARE(m_style->textRole, QPalette::ButtonText);
+    QVERIFY(m_style->textEnabled);
+    const auto color = [this](QPalette::ColorGroup group) {
+        return m_style->textPalette.color(group, QPalette::ButtonText).name(QColor::HexArgb);
+    };
+    QCOMPARE(color(QPalette::Active), active);
+    QCOMPARE(color(QPalette::Inactive), active);
+    QCOMPARE(color(QPalette::Disabled), disabled);
+}
+
+void tst_PushButtonPainters::labelPlace_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("withImage");
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("flags");
+    const auto row = [](const char *name, CButtonEx::CButtonStyles look, int width, bool image, int left, int flags) {
+        QTest::newRow(name) << static_cast<int>(look) << width << image << left << flags;
+    };
+    row("white", CButtonEx::BSEX_Normal, 100, false, 0, 0x884);
+    row("white, image", CButtonEx::BSEX_Normal, 100, true, 16 + 11, 0x881);
+    row("transparent, image", CButtonEx::BSEX_Transparent, 100, true, 16 + 11, 0x881);
+    row("green, image, narrow", CButtonEx::BSEX_Active, 110, true, 16 + 21, 0x881);
+    row("green, image, wide", CButtonEx::BSEX_Active, 111, true, 16 + 11, 0x881);
+    row("blue, image, narrow", CButtonEx::BSEX_Tray, 110, true, 16 + 21, 0x881);
+    row("glowing, image", CButtonEx::BSEX_Glowing, 100, true, 0, 0x844);
+}
+
+void tst_PushButtonPainters::labelPlace()
+{
+    QFETCH(int, look);
+    QFETCH(int, width);
+    QFETCH(bool, withImage);
+    QFETCH(int, left);
+    QFETCH(int, flags);
+    CButtonEx button;
+    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    QFont font = button.font();
+    font.setPixelSize(18);
+    button.setFont(font);
+    if (withImage)
+        button.setPixmap(imageOf(16, 16));
+    for (const QStyle::State state : {QStyle::State(QStyle::State_Enabled), QStyle::State(sunken)}) {
+        QStyleOptionButton option = optionFor(button, QStringLiteral("Text"), state);
+        option.rect.setWidth(width);
+        control(QStyle::CE_PushButtonLabel, button, option);
+        QCOMPARE(m_style->textRect, QRect(left, 0, width - left, 20)); // pressed or not
+        QCOMPARE(m_style->textFlags, flags);
+    }
+    QCOMPARE(m_style->textFont.pixelSize(), look == CButtonEx::BSEX_Glowing ? 14 : 18);
+    QCOMPARE(m_style->textFont.styleStrategy(), QFont::PreferAntialias);
+}
+
+void tst_PushButtonPainters::everyStateAndSizeIsSafe()
+{
+    CButtonEx button;
+    button.setPixmap(imageOf(30, 30));
+    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    for (int look : {0, 1, 2, 4, 8, 16}) {
+        button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+        QCoreApplication::sendEvent(&button, &enter);
+        for (int state = 0; state < 64; ++state) {
+            QStyleOptionButton option = optionFor(button, state % 2 != 0 ? QStringLiteral("T&ext") : QString());
+            option.state = QStyle::State((state & 2) != 0 ? QStyle::State_Enabled : QStyle::State_None);
+            option.state.setFlag(QStyle::State_Sunken, (state & 4) != 0);
+            option.state.setFlag(QStyle::State_MouseOver, (state & 8) != 0);
+            option.features.setFlag(QStyleOptionButton::DefaultButton, (state & 16) != 0);
+            option.direction = (state & 32) != 0 ? Qt::RightToLeft : Qt::LeftToRight;
+            for (const QSize &size : {QSize(0, 0), QSize(1, 1), QSize(7, 3), QSize(43, 27), QSize(300, 60)}) {
+                option.rect = QRect(QPoint(0, 0), size);
+                const QImage image = Picture::of(QSize(320, 80), [&](QPainter *painter) {
+                    painter->setClipRect(option.rect);
+                    m_style->drawControl(QStyle::CE_PushButton, &option, painter, &button);
+                });
+                QVERIFY(!Picture::paintsOutside(image, option.rect));
+            }
+        }
+    }
+}
+
+HOUSE_TEST_MAIN(tst_PushButtonPainters)
+#include "tst_PushButtonPainters.moc"
