@@ -18,7 +18,7 @@ if(MSVC)
     target_compile_options(zel_warnings INTERFACE /W4 $<$<BOOL:${ZEL_WARNINGS_AS_ERRORS}>:/WX>)
 else()
     target_compile_options(zel_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-        -Wcast-qual -Wnull-dereference $<$<BOOL:${ZEL_WARNINGS_AS_ERRORS}>:-Werror>)
+        -Wcast-qual $<$<BOOL:${ZEL_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 
 if(ZEL_SANITIZE)

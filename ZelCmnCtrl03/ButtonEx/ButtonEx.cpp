@@ -254,8 +254,11 @@ void CButtonEx::openMenu()
     // Whoever is told of the menu may destroy the button.
     const QPointer<CButtonEx> self(this);
     d->m_pMenu->popup(mapToGlobal(QPoint(0, -height())));
-    if (!self.isNull())
-        setDown(false);
+    if (self.isNull())
+        return;
+    setDown(false);
+    if (!d->m_pMenu.isNull())
+        d->m_pointerWatch.start(d->m_pMenu, this);
 }
 
 void CButtonEx::leaveEvent(QEvent *event)

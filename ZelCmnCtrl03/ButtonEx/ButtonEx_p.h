@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ButtonEx/MenuPointerWatch.h"
 #include "MenuEx/MenuEx.h"
 
 #include <QBasicTimer>
@@ -18,4 +19,5 @@ public:
     QPointer<CMenuEx> m_pMenu;
     int m_iIdleTicks = 0; // of m_menuTimer, since the mouse was last on the button or the menu
     QBasicTimer m_menuTimer;
+    MenuPointerWatch m_pointerWatch;
 };

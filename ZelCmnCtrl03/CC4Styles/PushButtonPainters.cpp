@@ -111,12 +111,8 @@ void drawHighlight(QPainter *painter, const QRect &rect, const SlicedLook &look)
 {
     const QColor top = UIGGetColor(QLatin1String(look.highlightTop));
     const QColor bottom = UIGGetColor(QLatin1String(look.highlightBottom));
-    painter->setPen(top);
-    painter->drawLine(rect.left(), rect.top(), rect.right(), rect.top());
-    painter->drawLine(rect.left(), rect.top() + 1, rect.right(), rect.top() + 1);
-    painter->setPen(bottom);
-    painter->drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
-    painter->drawLine(rect.left(), rect.bottom() - 1, rect.right(), rect.bottom() - 1);
+    painter->fillRect(rect.left(), rect.top(), rect.width(), 2, top);
+    painter->fillRect(rect.left(), rect.bottom() - 1, rect.width(), 2, bottom);
     const int height = rect.bottom();
     PaintTools::drawVerticalGradient(painter, QRect(rect.left(), rect.top(), 2, height), top, bottom);
     PaintTools::drawVerticalGradient(painter, QRect(rect.right() - 2, rect.top(), 3, height), top, bottom);

@@ -3,6 +3,8 @@
 
 #include <QEvent>
 #include <QFont>
+#include <QMouseEvent>
+#include <QPoint>
 #include <QtGlobal>
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -28,6 +30,16 @@ inline void setFontWeight(QFont &font, int weight)
     QT_WARNING_POP
 #else
     font.setWeight(weight);
+#endif
+}
+
+/** Where on the screen a mouse event happened. */
+inline QPoint globalPosition(const QMouseEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->globalPosition().toPoint();
+#else
+    return event->globalPos();
 #endif
 }
 

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class CButtonEx;
+class QMenu;
+
+/**
+ * Tells buttons that the pointer enters or leaves them while a menu is open.
+ *
+ * An open menu has all pointer events to itself, so the window system's enter and leave stay away from the buttons until
+ * it closes: the button that opened it would never learn that the mouse has gone. The menu's own mouse moves say where
+ * the pointer is.
+ */
+class MenuPointerWatch : public QObject
+{
+public:
+    /** Watches until the menu or this object goes. `button` is the one under the pointer. */
+    void start(QMenu *menu, CButtonEx *button);
+
+    bool eventFilter(QObject *menu, QEvent *event) override;
+
+private:
+    void movePointerTo(CButtonEx *button);
+
+    QPointer<QMenu> m_menu;
+    QPointer<CButtonEx> m_hovered;
+};

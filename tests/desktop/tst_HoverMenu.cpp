@@ -1,0 +1,181 @@
+// The glowing button and its menu under a real pointer, in real windows.
+#include "helpers/HouseTest.h"
+
+#include "ButtonEx/ButtonEx.h"
+#include "MenuEx/MenuEx.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QScreen>
+#include <QSignalSpy>
+
+namespace {
+
+void xdotool(const QStringList &arguments)
+{
+    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
+}
+
+void movePointer(const QPoint &global)
+{
+    xdotool({QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y())});
+}
+
+void click(int button)
+{
+    xdotool({QStringLiteral("click"), QString::number(button)});
+}
+
+// The menu opens over the upper part of its button, this corner stays free.
+QPoint freeCornerOf(const QWidget &button)
+{
+    return button.mapToGlobal(button.rect().bottomRight() - QPoint(3, 3));
+}
+
+} // namespace
+
+class tst_HoverMenu : public HouseTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void unrollsUnderThePointerAndClosesByItself();
+    void staysUnderThePointer();
+    void entryIsChosenByClick();
+    void pressClosesIt();
+    void otherButtonTakesOver();
+
+private:
+    QPoint entry(int index) const
+    {
+        return m_menu->mapToGlobal(m_menu->actionGeometry(m_menu->actions().at(index)).center());
+    }
+    QPoint away() const { return m_window->mapToGlobal(QPoint(20, 20)); }
+    void takePicture(const char *step) const;
+
+    std::unique_ptr<QWidget> m_window;
+    CButtonEx *m_button = nullptr;
+    CButtonEx *m_other = nullptr;
+    CMenuEx *m_menu = nullptr;
+    CMenuEx *m_otherMenu = nullptr;
+};
+
+void tst_HoverMenu::init()
+{
+    HouseTest::init();
+    m_window = std::make_unique<QWidget>();
+    m_window->setGeometry(200, 200, 700, 500);
+    const auto addButton = [this](int x, CMenuEx *menu) {
+        auto *button = new CButtonEx(m_window.get());
+        button->setButtonStyle(CButtonEx::BSEX_Glowing);
+        button->setText(QStringLiteral("Share photos"));
+        button->setMenu(menu);
+        button->setGeometry(x, 300, 100, 80);
+        for (int i = 0; i < 6; ++i)
+            menu->addAction(QStringLiteral("Entry %1").arg(i));
+        return button;
+    };
+    QPalette palette = m_window->palette();
+    palette.setBrush(QPalette::Window, palette.highlight());
+    m_window->setPalette(palette);
+    m_menu = new CMenuEx(m_window.get());
+    m_otherMenu = new CMenuEx(m_window.get());
+    m_button = addButton(100, m_menu);
+    m_other = addButton(400, m_otherMenu);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    movePointer(away());
+    click(1);
+    QTRY_VERIFY(QApplication::activeWindow() == m_window.get());
+}
+
+void tst_HoverMenu::cleanup()
+{
+    m_window.reset();
+    HouseTest::cleanup();
+}
+
+// For eyes: with TST_PICTURES set to a directory, each step leaves a picture of the screen there.
+void tst_HoverMenu::takePicture(const char *step) const
+{
+    const QString directory = qEnvironmentVariable("TST_PICTURES");
+    if (directory.isEmpty())
+        return;
+    QVERIFY(QApplication::primaryScreen()->grabWindow(0).save(QDir(directory).filePath(
+        QStringLiteral("%1-%2.png").arg(QLatin1String(QTest::currentTestFunction()), QLatin1String(step)))));
+}
+
+void tst_HoverMenu::unrollsUnderThePointerAndClosesByItself()
+{
+    takePicture("0-rest");
+    movePointer(freeCornerOf(*m_button));
+    QTRY_VERIFY(m_menu->isVisible());
+    QVERIFY(m_menu->height() < m_menu->sizeHint().height());
+    QTRY_VERIFY(m_menu->height() > m_menu->sizeHint().height() / 2);
+    takePicture("1-unrolling");
+    QTRY_COMPARE(m_menu->height(), m_menu->sizeHint().height());
+    QTRY_VERIFY(m_button->getGlowAlpha() > 0.95F);
+    takePicture("2-open");
+
+    QElapsedTimer clock;
+    clock.start();
+    movePointer(away());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_menu->isVisible(), 4000);
+    QVERIFY2(clock.elapsed() >= 1000, qPrintable(QString::number(clock.elapsed())));
+    QTRY_VERIFY(m_button->getGlowAlpha() < 0.05F);
+    takePicture("3-closed");
+}
+
+void tst_HoverMenu::staysUnderThePointer()
+{
+    movePointer(freeCornerOf(*m_button));
+    QTRY_COMPARE(m_menu->height(), m_menu->sizeHint().height());
+    movePointer(entry(3));
+    QTRY_VERIFY(m_menu->cursorOnMenu());
+    QTRY_COMPARE(m_menu->activeAction(), m_menu->actions().at(3));
+    takePicture("1-on-menu");
+    VERIFY_HOLDS_FOR(m_menu->isVisible(), 2000);
+    movePointer(away());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_menu->isVisible(), 4000);
+}
+
+void tst_HoverMenu::entryIsChosenByClick()
+{
+    const QSignalSpy chosen(m_menu, &QMenu::triggered);
+    movePointer(freeCornerOf(*m_button));
+    QTRY_COMPARE(m_menu->height(), m_menu->sizeHint().height());
+    movePointer(entry(2));
+    QTRY_COMPARE(m_menu->activeAction(), m_menu->actions().at(2));
+    click(3);
+    VERIFY_HOLDS_FOR(chosen.isEmpty() && m_menu->isVisible(), 300);
+    click(1);
+    QTRY_COMPARE(static_cast<int>(chosen.count()), 1);
+    QCOMPARE(chosen.first().first().value<QAction *>(), m_menu->actions().at(2));
+    QTRY_VERIFY(!m_menu->isVisible());
+}
+
+void tst_HoverMenu::pressClosesIt()
+{
+    movePointer(freeCornerOf(*m_button));
+    QTRY_COMPARE(m_menu->height(), m_menu->sizeHint().height());
+    movePointer(away());
+    click(1);
+    QTRY_VERIFY(!m_menu->isVisible());
+}
+
+void tst_HoverMenu::otherButtonTakesOver()
+{
+    movePointer(freeCornerOf(*m_button));
+    QTRY_VERIFY(m_menu->isVisible());
+    movePointer(freeCornerOf(*m_other));
+    QTRY_VERIFY_WITH_TIMEOUT(m_otherMenu->isVisible(), 5000);
+    QVERIFY(!m_menu->isVisible());
+    takePicture("1-other");
+}
+
+HOUSE_TEST_MAIN(tst_HoverMenu)
+#include "tst_HoverMenu.moc"
