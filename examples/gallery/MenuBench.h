@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ControlMaker.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class CMenuEx;
+class QAction;
+class QLabel;
+class QMenu;
+
+namespace gallery {
+
+/** A house menu and a plain one to open, with what was chosen and whether the pointer is on the house menu. */
+class MenuBench : public QWidget
+{
+    Q_OBJECT
+
+public:
+    MenuBench(const MakerSettings &settings, QWidget *parent);
+
+private:
+    void addHouseMenu(const MakerSettings &settings);
+    void addPlainMenu(const MakerSettings &settings);
+    void showChoice(const QMenu *menu, const QAction *action);
+    void showPointer();
+
+    CMenuEx *m_houseMenu;
+    QMenu *m_plainMenu;
+    QLabel *m_choice;
+    QLabel *m_pointer;
+    QTimer m_pointerTimer;
+};
+
+QWidget *makeMenuBench(const Specimen &specimen, const MakerSettings &settings, QWidget *parent);
+
+} // namespace gallery

@@ -1,0 +1,81 @@
+#include "MenuMakers.h"
+
+#include "Panels.h"
+
+#include <ZelCmnCtrl03/CMenuEx>
+
+#include <QAction>
+#include <QIcon>
+#include <QKeySequence>
+
+namespace gallery {
+
+namespace {
+
+QAction *addEntry(CMenuEx *menu, const QString &text, const QIcon &icon = QIcon())
+{
+    QAction *action = menu->addMenuItem(text, icon.isNull() ? nullptr : &icon);
+    action->setParent(menu); // addMenuItem leaves it to its caller
+    return action;
+}
+
+QAction *addEntry(QMenu *menu, const QString &text, const QIcon &icon = QIcon())
+{
+    return menu->addAction(icon, text);
+}
+
+template <class Menu>
+void addEntries(Menu *menu, const SampleTexts &texts)
+{
+    addEntry(menu, texts.print, sampleIcon(QStringLiteral("print")))->setShortcut(QKeySequence::Print);
+    addEntry(menu, texts.open, sampleIcon(QStringLiteral("photo")));
+    addEntry(menu, texts.remove)->setEnabled(false);
+    menu->addSeparator();
+    QAction *details = addEntry(menu, texts.showDetails);
+    details->setCheckable(true);
+    details->setChecked(true);
+    addEntry(menu, texts.photos)->setCheckable(true);
+    menu->addSeparator();
+    // A QMenu whatever the menu is: the result of CMenuEx::addMenu is nothing more.
+    QMenu *submenu = menu->addMenu(texts.share);
+    submenu->addAction(texts.email);
+    submenu->addAction(texts.folder);
+}
+
+template <class Menu>
+QWidget *makePicture(const Specimen &specimen, const MakerSettings &settings, QWidget *parent)
+{
+    Menu menu;
+    if (settings.foreignStyle != nullptr)
+        menu.setStyle(settings.foreignStyle);
+    fillMenu(&menu, settings.texts);
+    menu.setEnabled(settings.isEnabled && specimen.state != State::Disabled);
+    menu.resize(menu.sizeHint());
+    if (specimen.state == State::Hovered)
+        menu.setActiveAction(menu.actions().constFirst());
+    return new Picture(menu.grab(), parent);
+}
+
+} // namespace
+
+void fillMenu(CMenuEx *menu, const SampleTexts &texts)
+{
+    addEntries(menu, texts);
+}
+
+void fillMenu(QMenu *menu, const SampleTexts &texts)
+{
+    addEntries(menu, texts);
+}
+
+QWidget *makeMenuExPicture(const Specimen &specimen, const MakerSettings &settings, QWidget *parent)
+{
+    return makePicture<CMenuEx>(specimen, settings, parent);
+}
+
+QWidget *makeMenuPicture(const Specimen &specimen, const MakerSettings &settings, QWidget *parent)
+{
+    return makePicture<QMenu>(specimen, settings, parent);
+}
+
+} // namespace gallery

@@ -1,0 +1,148 @@
+#include "Specimens.h"
+
+#include <algorithm>
+
+namespace gallery {
+
+namespace {
+
+struct Row
+{
+    QString caption;
+    Control control;
+    CButtonEx::CButtonStyles look = CButtonEx::BSEX_Normal;
+    Ground ground = Ground::Page;
+    Content content = Content::Text; // in columns that want no other
+};
+
+struct Column
+{
+    QString caption;
+    State state;
+    Content content = Content::Text;
+};
+
+std::vector<Specimen> table(const std::vector<Row> &rows, const std::vector<Column> &columns)
+{
+    std::vector<Specimen> specimens;
+    specimens.reserve(rows.size() * columns.size());
+    for (const Row &row : rows) {
+        for (const Column &column : columns) {
+            const Content content = column.content == Content::Text ? row.content : column.content;
+            specimens.push_back(
+                {row.caption, column.caption, row.control, row.look, row.ground, column.state, content});
+        }
+    }
+    return specimens;
+}
+
+const std::vector<Row> buttonRows = {
+    {QStringLiteral("Normal"), Control::ButtonEx, CButtonEx::BSEX_Normal},
+    {QStringLiteral("Active"), Control::ButtonEx, CButtonEx::BSEX_Active},
+    {QStringLiteral("Tray"), Control::ButtonEx, CButtonEx::BSEX_Tray},
+    {QStringLiteral("Tertiary"), Control::ButtonEx, CButtonEx::BSEX_Tertiary},
+    {QStringLiteral("Transparent"), Control::ButtonEx, CButtonEx::BSEX_Transparent, Ground::Tray},
+    {QStringLiteral("Glowing"), Control::ButtonEx, CButtonEx::BSEX_Glowing, Ground::Tray, Content::ImageAndText},
+    {QStringLiteral("QPushButton"), Control::PushButton},
+};
+
+const std::vector<Column> buttonStates = {
+    {QStringLiteral("Normal"), State::Normal},     {QStringLiteral("Hovered"), State::Hovered},
+    {QStringLiteral("Focused"), State::Focused},   {QStringLiteral("Pressed"), State::Pressed},
+    {QStringLiteral("Disabled"), State::Disabled}, {QStringLiteral("Default"), State::Default},
+};
+
+const std::vector<Column> buttonContents = {
+    {QStringLiteral("Image"), State::Normal, Content::ImageAndText},
+    {QStringLiteral("Image, pressed"), State::Pressed, Content::ImageAndText},
+    {QStringLiteral("Image, no text"), State::Normal, Content::Image},
+    {QStringLiteral("Flat"), State::Flat},
+    {QStringLiteral("Long text"), State::Normal, Content::LongText},
+    {QStringLiteral("Empty text"), State::Normal, Content::Nothing},
+};
+
+// The row has no caption: these are told apart by their columns.
+const std::vector<Specimen> workingButtons = {
+    {QString(), QStringLiteral("Normal"), Control::ButtonEx, CButtonEx::BSEX_Normal, Ground::Page, State::Working,
+     Content::Text},
+    {QString(), QStringLiteral("Normal, default"), Control::ButtonEx, CButtonEx::BSEX_Normal, Ground::Page,
+     State::WorkingDefault, Content::Text},
+    {QString(), QStringLiteral("Active"), Control::ButtonEx, CButtonEx::BSEX_Active, Ground::Page, State::Working,
+     Content::ImageAndText},
+    {QString(), QStringLiteral("Tray"), Control::ButtonEx, CButtonEx::BSEX_Tray, Ground::Page, State::Working,
+     Content::ImageAndText},
+    {QString(), QStringLiteral("Tertiary"), Control::ButtonEx, CButtonEx::BSEX_Tertiary, Ground::Page, State::Working,
+     Content::Text},
+    {QString(), QStringLiteral("QPushButton"), Control::PushButton, CButtonEx::BSEX_Normal, Ground::Page,
+     State::Working, Content::ImageAndText},
+};
+
+const std::vector<Specimen> workingTray = {
+    {QString(), QStringLiteral("Glowing, menu"), Control::ButtonEx, CButtonEx::BSEX_Glowing, Ground::Tray,
+     State::Working, Content::PrintMenu},
+    {QString(), QStringLiteral("Glowing, other menu"), Control::ButtonEx, CButtonEx::BSEX_Glowing, Ground::Tray,
+     State::Working, Content::PhotosMenu},
+    {QString(), QStringLiteral("Glowing"), Control::ButtonEx, CButtonEx::BSEX_Glowing, Ground::Tray, State::Working,
+     Content::ImageAndText},
+    {QString(), QStringLiteral("Transparent, menu"), Control::ButtonEx, CButtonEx::BSEX_Transparent, Ground::Tray,
+     State::Working, Content::PrintMenu},
+    {QString(), QStringLiteral("Transparent"), Control::ButtonEx, CButtonEx::BSEX_Transparent, Ground::Tray,
+     State::Working, Content::ImageAndText},
+};
+
+const std::vector<Row> menuRows = {
+    {QStringLiteral("CMenuEx"), Control::MenuEx},
+    {QStringLiteral("QMenu"), Control::Menu},
+};
+
+const std::vector<Column> menuStates = {
+    {QStringLiteral("Open"), State::Normal, Content::PrintMenu},
+    {QStringLiteral("Entry hovered"), State::Hovered, Content::PrintMenu},
+    {QStringLiteral("Disabled"), State::Disabled, Content::PrintMenu},
+};
+
+const std::vector<Row> menuBenchRow = {{QString(), Control::MenuBench}};
+const std::vector<Column> menuBenchColumn = {{QString(), State::Working, Content::PhotosMenu}};
+
+} // namespace
+
+const std::vector<PageDescription> &pages()
+{
+    static const std::vector<PageDescription> all = {
+        {QStringLiteral("buttons"),
+         QStringLiteral("Push buttons"),
+         {
+             {QStringLiteral("States"), QStringLiteral("Every look, held still in each state."),
+              table(buttonRows, buttonStates)},
+             {QStringLiteral("Contents"), QStringLiteral("The same looks with other texts and with an image."),
+              table(buttonRows, buttonContents)},
+             {QStringLiteral("Working controls"),
+              QStringLiteral("Point, press and tab through these. The status line tells of each click."),
+              workingButtons},
+             {QStringLiteral("Working controls in a tray"),
+              QStringLiteral("Those with a menu: the glowing ones open it as soon as the pointer is on them."),
+              workingTray},
+         }},
+        {QStringLiteral("menus"),
+         QStringLiteral("Menus"),
+         {
+             {QStringLiteral("Pictures"),
+              QStringLiteral("Icons, a shortcut, a disabled entry, checked and unchecked entries and a submenu."),
+              table(menuRows, menuStates)},
+             {QStringLiteral("Working controls"),
+              QStringLiteral("The submenu of a CMenuEx opens by click or by key, not by waiting."),
+              table(menuBenchRow, menuBenchColumn)},
+         }},
+    };
+    return all;
+}
+
+const PageDescription *findPage(const QString &name)
+{
+    const std::vector<PageDescription> &all = pages();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&name](const PageDescription &page) { return page.name == name; });
+    return found != all.end() ? &*found : nullptr;
+}
+
+} // namespace gallery

@@ -1,0 +1,99 @@
+#include "GalleryOptions.h"
+#include "MainWindow.h"
+#include "Shots.h"
+
+#include <ZelCmnCtrl03/CC4StyleFactory>
+
+#include <QApplication>
+#include <QStyleFactory>
+#include <QTextStream>
+
+#include <memory>
+
+namespace {
+
+constexpr int wrongArguments = 2;
+constexpr int fontPixels = 13;
+
+/** Keeps the house style through the whole run: with the last control of a page the factory would forget it. */
+class HouseStyle
+{
+public:
+    HouseStyle() { CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style); }
+    ~HouseStyle() { CC4StyleFactory::releaseStyle(CC4StyleFactory::CC4Style); }
+    Q_DISABLE_COPY(HouseStyle)
+};
+
+QStringList argumentsOf(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+// One size everywhere, so that pictures do not depend on where they were taken.
+void setFontSize()
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(fontPixels);
+    QApplication::setFont(font);
+}
+
+int takePictures(const gallery::GalleryOptions &options)
+{
+    const std::unique_ptr<QStyle> foreignStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    gallery::MakerSettings settings;
+    settings.texts = gallery::sampleTexts(qEnvironmentVariable("ZEL_LANGUAGE"));
+    settings.foreignStyle = options.isForeign ? foreignStyle.get() : nullptr;
+    settings.isEnabled = !options.isDisabled;
+    settings.isAnimated = false;
+
+    std::vector<gallery::PageDescription> wanted = gallery::pages();
+    if (!options.pageName.isEmpty())
+        wanted = {*gallery::findPage(options.pageName)};
+    if (!options.shotsDirectory.isEmpty()) {
+        const int status = gallery::savePages(wanted, settings, options.shotsDirectory);
+        if (status != 0)
+            return status;
+    }
+    if (options.picturesDirectory.isEmpty())
+        return 0;
+    return gallery::saveSpecimens(wanted, settings, options.picturesDirectory);
+}
+
+int showHelp(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv); // no display needed for this
+    QTextStream(stdout) << gallery::helpText();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const gallery::ParsedOptions parsed = gallery::parseOptions(argumentsOf(argc, argv));
+    if (parsed.isHelpWanted)
+        return showHelp(argc, argv);
+    if (!parsed.error.isEmpty()) {
+        QTextStream(stderr) << QStringLiteral("zel_gallery: %1\n").arg(parsed.error);
+        return wrongArguments;
+    }
+
+    const gallery::GalleryOptions &options = parsed.options;
+    gallery::applyToEnvironment(options);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    QApplication application(argc, argv);
+    const HouseStyle houseStyle;
+    setFontSize();
+    if (options.isRightToLeft)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    if (options.takesPictures())
+        return takePictures(options);
+    gallery::MainWindow window(options);
+    window.show();
+    return QApplication::exec();
+}
