@@ -147,7 +147,7 @@ void CButtonEx::setImage(const QPixmap &image)
 {
     ZEL_LOG_SCOPE;
     setPixmap(image);
-    resize(m_image.size() / m_image.devicePixelRatioF());
+    resize(imageSize());
 }
 
 void CButtonEx::setImage(const QString &path)
@@ -354,10 +354,16 @@ void CButtonEx::resizeEvent(QResizeEvent *event)
         setFixedWidth(std::max(contents, minimumWidth()));
 }
 
+// In the pixels that widgets count in. A null pixmap may have a ratio of 0.
+QSize CButtonEx::imageSize() const
+{
+    return m_image.isNull() ? QSize(0, 0) : m_image.size() / m_image.devicePixelRatioF();
+}
+
 int CButtonEx::widthForContents() const
 {
     const int textWidth = text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text());
-    const int imageWidth = m_image.isNull() ? 0 : qRound(m_image.width() / m_image.devicePixelRatioF());
+    const int imageWidth = imageSize().width();
     if (m_buttonStyle == BSEX_Glowing) {
         const int forImage = m_image.isNull() ? 0 : imageWidth + glowingImageMargin;
         return std::max(textWidth + glowingMargin, forImage);

@@ -33,7 +33,7 @@ class ZELCMNCTRL_EXPORT CButtonEx : public QPushButton
 
 public:
     /** The looks. The enumerators' words are also their names in the `buttonStyle` property. */
-    enum CButtonStyles
+    enum CButtonStyles : int
     {
         BSEX_Normal = 0,      ///< white face, the default
         BSEX_Transparent = 1, ///< the image alone
@@ -123,6 +123,7 @@ private:
     void swell(int pixels);
     void stepGlow();
     void watchMenu();
+    QSize imageSize() const;
     int widthForContents() const;
 
     int m_iPulseStep = 0;

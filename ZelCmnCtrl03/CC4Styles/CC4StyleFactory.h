@@ -19,7 +19,7 @@ class ZELCMNCTRL_EXPORT CC4StyleFactory
 {
 public:
     /** The kinds. They are compared as whole numbers, not as bits. */
-    enum Styles
+    enum Styles : int
     {
         CC4Style = 0,        ///< the main style, CCommonControlStyle
         BlueScrollStyle = 1, ///< the main style with bitmap scroll bars; not to be had yet, getStyle answers null

@@ -27,7 +27,7 @@ QPixmap scaledSlice(const QString &fileName, int height, qreal ratio)
 
 qreal logicalWidth(const QPixmap &pixmap)
 {
-    return pixmap.width() / pixmap.devicePixelRatioF();
+    return pixmap.isNull() ? 0.0 : pixmap.width() / pixmap.devicePixelRatioF();
 }
 
 // Tiles from the painter's origin. The pattern is given in device pixels and scaled here, because not every paint
@@ -71,7 +71,8 @@ qreal deviceRatio(const QPainter *painter)
 
 QSize logicalSize(const QPixmap &pixmap)
 {
-    return pixmap.size() / pixmap.devicePixelRatioF();
+    // A null pixmap may have a ratio of 0.
+    return pixmap.isNull() ? QSize(0, 0) : pixmap.size() / pixmap.devicePixelRatioF();
 }
 
 CachedPicture::CachedPicture(const QString &key, const QSize &size, const QPainter *painter)
