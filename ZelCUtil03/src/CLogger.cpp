@@ -13,10 +13,16 @@ std::u16string textOf(const char16_t *text)
     return text != nullptr ? text : u"-";
 }
 
-std::u16string recordOf(const char16_t *message, const char16_t *component, const char16_t *file, int line)
+std::u16string number(int value)
 {
-    const std::u16string number = zelcutil::toUtf16(std::to_string(line));
-    return textOf(component) + u' ' + textOf(file) + u'(' + number + u"): " + textOf(message);
+    return zelcutil::toUtf16(std::to_string(value));
+}
+
+// The level by its number: the log's own level names do not tell an entry from an exit.
+std::u16string recordOf(int level, const char16_t *message, const char16_t *component, const char16_t *file, int line)
+{
+    return number(level) + u' ' + textOf(component) + u' ' + textOf(file) + u'(' + number(line) + u"): " +
+           textOf(message);
 }
 
 } // namespace
@@ -30,9 +36,10 @@ void CLogger::LogMessage(int level, const char16_t *message, const char16_t *com
         return;
     }
     const zelcutil::platform::ErrorCodeKeeper keeper;
+    const zelcutil::platform::WriteSignalBlocker blocker;
     try {
         zelcutil::Log &log = zelcutil::Utility::instance().log();
-        log.write(zelcutil::Log::levelOf(level), recordOf(message, component, file, line));
+        log.write(zelcutil::Log::levelOf(level), recordOf(level, message, component, file, line));
         // Each time, not once: the log may have given up its file while writing.
         s_wantedLevels.store(log.wantedLevels(), std::memory_order_relaxed);
     } catch (...) {

@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t largestFile = std::size_t{5} * 1024 * 1024;
 constexpr std::size_t olderFiles = 2; // spdlog counts the files besides the current one: three in all
 
-constexpr const char *linePattern = "%Y-%m-%d %H:%M:%S.%e [%P] %-6l %v";
+constexpr const char *linePattern = "%Y-%m-%d %H:%M:%S.%e [%P] %-7l %v";
 
 constexpr std::uint32_t levelBits = 32;
 
@@ -83,7 +83,8 @@ void Log::openFile(const LogPlan &plan)
             reason = failure.what();
         }
     }
-    warn("the log " + m_fileName + " cannot be written: " + reason +
+    const std::string name = m_fileName.empty() ? std::string() : m_fileName + ' ';
+    warn("the log " + name + "cannot be written: " + reason +
          "; set ZEL_LOG_FILE, or File in section [Log], to a file in a writable folder");
 }
 

@@ -5,6 +5,7 @@
 #include "Text.h"
 
 #include <optional>
+#include <system_error>
 #include <utility>
 
 namespace zelcutil {

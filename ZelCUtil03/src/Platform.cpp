@@ -2,6 +2,7 @@
 
 #include "Text.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <clocale>
 #include <cstdlib>
@@ -104,6 +105,9 @@ ErrorCodeKeeper::~ErrorCodeKeeper()
     SetLastError(systemError);
 }
 
+WriteSignalBlocker::WriteSignalBlocker() noexcept = default;
+WriteSignalBlocker::~WriteSignalBlocker() = default;
+
 #else
 
 std::string environmentValue(const char *name)
@@ -173,6 +177,36 @@ ErrorCodeKeeper::ErrorCodeKeeper() noexcept : errorNumber(errno) {}
 ErrorCodeKeeper::~ErrorCodeKeeper()
 {
     errno = errorNumber;
+}
+
+namespace {
+constexpr int writeSignals[] = {SIGPIPE, SIGXFSZ};
+} // namespace
+
+WriteSignalBlocker::WriteSignalBlocker() noexcept : m_savedMask(), m_pendingBefore()
+{
+    sigset_t blocked;
+    sigemptyset(&blocked);
+    for (const int signal : writeSignals)
+        sigaddset(&blocked, signal);
+    pthread_sigmask(SIG_BLOCK, &blocked, &m_savedMask);
+    sigpending(&m_pendingBefore);
+}
+
+WriteSignalBlocker::~WriteSignalBlocker()
+{
+    sigset_t pending;
+    sigpending(&pending);
+    for (const int signal : writeSignals) {
+        if (sigismember(&pending, signal) != 1 || sigismember(&m_pendingBefore, signal) == 1)
+            continue;
+        sigset_t own;
+        sigemptyset(&own);
+        sigaddset(&own, signal);
+        const timespec atOnce = {};
+        sigtimedwait(&own, nullptr, &atOnce);
+    }
+    pthread_sigmask(SIG_SETMASK, &m_savedMask, nullptr);
 }
 
 #endif

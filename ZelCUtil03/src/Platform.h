@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -39,6 +40,25 @@ private:
     int errorNumber;
 #if defined(_WIN32)
     unsigned long systemError;
+#endif
+};
+
+/**
+ * Keeps a write from ending the process by a signal, as one to a closed pipe or beyond a size limit would: in its scope
+ * such a write just fails. Other signals, and those that were on their way before, stay as they are.
+ */
+class WriteSignalBlocker
+{
+public:
+    WriteSignalBlocker() noexcept;
+    ~WriteSignalBlocker();
+    WriteSignalBlocker(const WriteSignalBlocker &) = delete;
+    WriteSignalBlocker &operator=(const WriteSignalBlocker &) = delete;
+
+#if !defined(_WIN32)
+private:
+    sigset_t m_savedMask;
+    sigset_t m_pendingBefore;
 #endif
 };
 

@@ -17,19 +17,26 @@ namespace {
 using zelcutil::Settings;
 namespace platform = zelcutil::platform;
 
+// Tags are taken as they stand. Who copies the name of a locale, ja_JP.UTF-8, means the tag for it.
+std::string tagOf(const std::string &given)
+{
+    return given.find_first_of("_.@") == std::string::npos ? given : zelcutil::languageTag(given);
+}
+
 std::string decideLanguage(const Settings &settings)
 {
-    std::string fromEnvironment = platform::environmentValue("ZEL_LANGUAGE");
-    if (!fromEnvironment.empty()) {
-        return fromEnvironment;
-    }
+    const std::string fromEnvironment = platform::environmentValue("ZEL_LANGUAGE");
+    if (!fromEnvironment.empty())
+        return tagOf(fromEnvironment);
     const std::string configured = settings.value("Installation", "Language");
-    return configured.empty() ? zelcutil::languageTag(platform::messageLocale()) : configured;
+    return configured.empty() ? zelcutil::languageTag(platform::messageLocale()) : tagOf(configured);
 }
 
 std::string installedArtwork()
 {
     const std::filesystem::path library = platform::libraryDirectory();
+    if (library.empty())
+        return std::string();
     const std::filesystem::path artwork = (library / ZELCUTIL03_ARTWORK_FROM_LIBRARY).lexically_normal();
     std::error_code error;
     return std::filesystem::is_directory(artwork, error) ? artwork.u8string() : std::string();

@@ -11,6 +11,8 @@
 #include <thread>
 #include <vector>
 
+#include <unistd.h>
+
 namespace {
 
 void logAt(int level, const std::u16string &message)
@@ -111,6 +113,16 @@ void printErrorNumber()
     std::printf("errno=%d\n", errno);
 }
 
+// A pipe whose reader has gone.
+void deafenStandardError()
+{
+    int ends[2];
+    if (pipe(ends) == 0 && dup2(ends[1], STDERR_FILENO) != -1) {
+        close(ends[0]);
+        close(ends[1]);
+    }
+}
+
 void take(const std::string &step, const std::string &operand)
 {
     if (step == "language") {
@@ -135,6 +147,8 @@ void take(const std::string &step, const std::string &operand)
         logMegabytes(std::stoi(operand));
     } else if (step == "errno") {
         printErrorNumber();
+    } else if (step == "deafen") {
+        deafenStandardError();
     } else if (step == "crash") {
         std::_Exit(0); // nothing is flushed, as in a crash
     } else {

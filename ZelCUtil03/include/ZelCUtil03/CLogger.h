@@ -35,7 +35,7 @@ public:
     /**
      * Whether a record of @p level would be written. Ask before composing a costly message.
      *
-     * True for every level until the log has configured itself, which the first use of this library does.
+     * True for every level until the log has configured itself, which the first record does.
      */
     static bool isLevelWanted(int level) noexcept
     {
