@@ -6,8 +6,10 @@
 
 #include <QFile>
 #include <QLibrary>
+#include <QScopedValueRollback>
 
 bool CUIGraphics::m_bInitialized = false;
+bool CUIGraphics::m_bStarting = false;
 CUIGraphics::GetLanguageFunction CUIGraphics::m_pGetLanguage = nullptr;
 CUIGraphics::RetrievePathFunction CUIGraphics::m_pRetrievePath = nullptr;
 QString CUIGraphics::m_sLanguage;
@@ -19,32 +21,30 @@ namespace {
 
 const QString xmlName = QStringLiteral("/UIGraphics.xml");
 
-void logProgress(const char *step)
-{
-    ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeUIG :: ") + QLatin1String(step));
-}
-
 } // namespace
 
 bool CUIGraphics::initializeUIG()
 {
     if (m_bInitialized)
         return true;
+    if (m_bStarting)
+        return false;
+    const QScopedValueRollback<bool> starting(m_bStarting, true);
     ZEL_LOG_SCOPE_OF(zel::UiGraphics);
     if (!loadUtilityLibrary())
         return false;
     m_sLanguage.clear();
     m_sGraphicsDir.clear();
     GetCULValues(QStringLiteral("CommonGraphicsDir"));
-    logProgress("After GetCULValues");
+    ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeUIG :: After GetCULValues"));
     initializeColorMap();
-    logProgress("After initializeColorMap");
+    ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeUIG :: After initializeColorMap"));
     initializeFontMap();
-    logProgress("After initializeFontMap");
+    ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeUIG :: After initializeFontMap"));
     readXmlFiles();
     // After the files, so that the family names they give take effect.
     initializeFont();
-    logProgress("After initializeFont");
+    ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeUIG :: After initializeFont"));
     m_bInitialized = true;
     return true;
 }

@@ -28,13 +28,14 @@ public:
      */
     static bool initializeUIG();
 
-    /** The full path of an existing file of the graphics directory, its language directory first; empty if none. */
+    /** The full path of an existing file or folder of the graphics directory, its language's first; empty if none. */
     static QString UIGGetImagePath(const QString &fileName);
 
     /**
      * The path with each component under the name that the system shows to the user.
      *
-     * A component that the system does not know is left out. A blank path gives an empty text.
+     * The first component, a drive or the root, stays as it is and is not looked at. Of the others, one that the system
+     * does not know is left out. A separator at the end is dropped; a blank path gives an empty text.
      */
     static QString UIGetLocalizedPath(const QString &nonLocalizedPath);
 
@@ -54,13 +55,13 @@ private:
     /** The fonts that the lookups copy from. */
     struct HeldFonts
     {
-        QFont standard;
-        QFont tooltip;
-        QFont sansSerif;
-        QFont verdana;
-        QFont shellDlg;
-        QFont small;
-        bool smallReplacesStandard = false; // below smallestPrivateFontPixels
+        QFont m_standardFont;
+        QFont m_tooltipFont;
+        QFont m_sansSerifFont;
+        QFont m_verdanaFont;
+        QFont m_shellDlgFont;
+        QFont m_smallFont;
+        bool m_bSmallReplacesStandard = false; // for sizes below 14 pixels
     };
 
     static bool loadUtilityLibrary();
@@ -76,6 +77,7 @@ private:
     static const QFont &standardFontForSize(int pixelSize);
 
     static bool m_bInitialized;
+    static bool m_bStarting; // a font that is registered on the way makes Qt tell the application, which may ask back
     static GetLanguageFunction m_pGetLanguage;
     static RetrievePathFunction m_pRetrievePath;
     static QString m_sLanguage;
@@ -90,8 +92,9 @@ QColor UIGGetColor(const QString &name);
 /**
  * The font for text of the controls, in the user interface language.
  *
- * `pixelSize` in pixels, `weight` on the scale 0 to 99 (50 normal, 75 bold); -1 leaves either as the registry holds it.
- * Below 14 pixels the private font gives way to the small font.
+ * `pixelSize` in pixels, `weight` on the scale 0 to 99 (50 normal, 75 bold, beyond it its end); -1 leaves either as the
+ * registry holds it. Below 14 pixels, and for -1, the private font gives way to the small font. While the registry has
+ * not started this is the application's font with the wanted attributes.
  */
 QFont UIGGetFont(int pixelSize, int weight, bool italic);
 

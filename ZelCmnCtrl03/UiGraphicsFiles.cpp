@@ -5,15 +5,17 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
 // "name.png" gives "name@2x.png"; empty when no such file stands beside it.
 QString doubleResolutionPath(const QString &path)
 {
-    const int dot = static_cast<int>(path.lastIndexOf(QLatin1Char('.')));
-    const QString twin = path.left(dot) + QLatin1String("@2x") + path.mid(dot);
-    return dot >= 0 && QFile::exists(twin) ? twin : QString();
+    const QFileInfo file(path);
+    const QString twin =
+        file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String("@2x.") + file.suffix();
+    return QFile::exists(twin) ? twin : QString();
 }
 
 QString withDisplayNames(const QString &path, QChar separator)
@@ -23,7 +25,7 @@ QString withDisplayNames(const QString &path, QChar separator)
     const int last = static_cast<int>(path.count(separator));
     for (int i = 1; i <= last; ++i) {
         const QString name = Platform::displayName(path.section(separator, 0, i));
-        if (name.isNull()) {
+        if (name.isEmpty()) {
             ZEL_LOG(zel::LogError, zel::UiGraphics,
                     QStringLiteral("CUIGraphics::UIGetLocalizedPath - Error while retriving the localized path"));
             continue;
@@ -60,8 +62,8 @@ QString CUIGraphics::RetrieveFilePath(const QString &fileName)
 
 QString CUIGraphics::UIGGetImagePath(const QString &fileName)
 {
-    ZEL_LOG_SCOPE_OF(zel::UiGraphics);
     initializeUIG();
+    ZEL_LOG_SCOPE_OF(zel::UiGraphics);
     const QString path = RetrieveFilePath(fileName);
     if (!path.isEmpty())
         ZEL_UIG_DETAIL(path);
@@ -96,7 +98,11 @@ QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
     if (path.isEmpty())
         return QPixmap();
     const QString twin = devicePixelRatio > 1.0 ? doubleResolutionPath(path) : QString();
-    return QPixmap(twin.isEmpty() ? path : twin);
+    if (twin.isEmpty())
+        return QPixmap(path);
+    QPixmap pixmap(twin);
+    pixmap.setDevicePixelRatio(2.0); // also where Qt was told not to read it from the name
+    return pixmap;
 }
 
 QImage UIGGetImage(const QString &fileName)

@@ -80,14 +80,14 @@ void CUIGraphics::initializeFont()
     ZEL_LOG_SCOPE_OF(zel::UiGraphics);
     HeldFonts &fonts = heldFonts();
     chooseLanguageFonts(fonts);
-    fonts.sansSerif = fontOfFamily(QStringLiteral("UIGFONT_SANS_SERIF"), systemFontPoints);
-    fonts.verdana = fontOfFamily(QStringLiteral("UIGFONT_VERDANA"), systemFontPoints);
-    fonts.shellDlg = fontOfFamily(QStringLiteral("UIGFONT_SHELLDLG"), systemFontPoints);
-    fonts.small = fontOfFamily(QStringLiteral("UIGFONT_ARIAL"), systemFontPoints);
+    fonts.m_sansSerifFont = fontOfFamily(QStringLiteral("UIGFONT_SANS_SERIF"), systemFontPoints);
+    fonts.m_verdanaFont = fontOfFamily(QStringLiteral("UIGFONT_VERDANA"), systemFontPoints);
+    fonts.m_shellDlgFont = fontOfFamily(QStringLiteral("UIGFONT_SHELLDLG"), systemFontPoints);
+    fonts.m_smallFont = fontOfFamily(QStringLiteral("UIGFONT_ARIAL"), systemFontPoints);
     ZEL_UIG_DETAIL(QStringLiteral("Small Font is Arial"));
     // Compared as fonts: QFont may keep another spelling of a family name than the map does.
     const QFont privateFont = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
-    fonts.smallReplacesStandard = fonts.standard.family() == privateFont.family();
+    fonts.m_bSmallReplacesStandard = fonts.m_standardFont.family() == privateFont.family();
 }
 
 void CUIGraphics::chooseLanguageFonts(HeldFonts &fonts)
@@ -96,21 +96,22 @@ void CUIGraphics::chooseLanguageFonts(HeldFonts &fonts)
     for (const LanguageFont &language : languageFonts) {
         if (tag != QString::fromUtf16(language.tag))
             continue;
-        fonts.standard = fontOfFamily(QString::fromUtf16(language.familyKey), systemFontPoints);
-        fonts.tooltip = fonts.standard;
+        fonts.m_standardFont = fontOfFamily(QString::fromUtf16(language.familyKey), systemFontPoints);
+        fonts.m_tooltipFont = fonts.m_standardFont;
         ZEL_UIG_DETAIL(QString::fromUtf16(language.record));
         return;
     }
 
-    fonts.tooltip = fontOfFamily(QStringLiteral("UIGFONT_TAHOMA"), systemFontPoints);
+    fonts.m_tooltipFont = fontOfFamily(QStringLiteral("UIGFONT_TAHOMA"), systemFontPoints);
     const QString privateFont = RetrieveFilePath(QStringLiteral("Fonts/KORZEMED.otf"));
     if (privateFont.isEmpty()) {
-        fonts.standard = fonts.tooltip;
+        fonts.m_standardFont = fonts.m_tooltipFont;
         ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Tahoma"));
     } else {
-        // A file that is no font leaves the family to the platform's font matching.
-        Platform::registerPrivateFont(privateFont);
-        fonts.standard = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
+        // One that is no font leaves the family to the platform's font matching.
+        if (!Platform::registerPrivateFont(privateFont))
+            ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeFont : not registered: %1").arg(privateFont));
+        fonts.m_standardFont = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
         ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Kor Sans Medium"));
     }
     ZEL_UIG_DETAIL(QStringLiteral("Tooltip Font is Tahoma"));
@@ -128,6 +129,8 @@ QFont CUIGraphics::fontOfFamily(const QString &familyKey, int pointSize)
 CUIGraphics::HeldFonts &CUIGraphics::heldFonts()
 {
     static HeldFonts *const fonts = new HeldFonts;
+    if (!m_bInitialized && !m_bStarting)
+        *fonts = HeldFonts(); // the application's font may be another one by now
     return *fonts;
 }
 
@@ -137,7 +140,7 @@ const QFont &CUIGraphics::standardFontForSize(int pixelSize)
     const HeldFonts &fonts = heldFonts();
     // "As held" counts as small too.
     const bool small = pixelSize < smallestPrivateFontPixels;
-    return small && fonts.smallReplacesStandard ? fonts.small : fonts.standard;
+    return small && fonts.m_bSmallReplacesStandard ? fonts.m_smallFont : fonts.m_standardFont;
 }
 
 QFont UIGGetFont(int pixelSize, int weight, bool italic)
@@ -155,7 +158,7 @@ QFont UIGGetUnderlinedFont(int pixelSize, int weight, bool italic)
 QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic)
 {
     CUIGraphics::initializeUIG();
-    return withAttributes(CUIGraphics::heldFonts().tooltip, pixelSize, weight, italic);
+    return withAttributes(CUIGraphics::heldFonts().m_tooltipFont, pixelSize, weight, italic);
 }
 
 QFont UIGGetFont(const QString &name)
@@ -163,12 +166,12 @@ QFont UIGGetFont(const QString &name)
     CUIGraphics::initializeUIG();
     const CUIGraphics::HeldFonts &fonts = CUIGraphics::heldFonts();
     if (name == QLatin1String("UIGFONT_SANS_SERIF"))
-        return fonts.sansSerif;
+        return fonts.m_sansSerifFont;
     if (name == QLatin1String("UIGFONT_VERDANA"))
-        return fonts.verdana;
+        return fonts.m_verdanaFont;
     if (name == QLatin1String("UIGFONT_SHELLDLG"))
-        return fonts.shellDlg;
+        return fonts.m_shellDlgFont;
     if (name == QLatin1String("UIGFONT_TAHOMA"))
-        return fonts.tooltip;
-    return fonts.standard;
+        return fonts.m_tooltipFont;
+    return fonts.m_standardFont;
 }

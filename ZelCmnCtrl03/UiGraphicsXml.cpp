@@ -1,6 +1,7 @@
 #include "UiGraphicsXml.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QXmlStreamReader>
 
 #include <utility>
@@ -57,15 +58,26 @@ private:
         --m_wanted;
     }
 
-    // The text of an element is all the text below it, its child elements' included.
+    // The text of an element is all the text below it, its child elements' included. No colour and no family is longer
+    // than the limit, and without one a few nested elements would multiply a long text.
     void addText()
     {
         if (m_wanted == 0)
             return;
         for (const OpenElement &element : std::as_const(m_open)) {
             if (element.list != nullptr)
-                (*element.list)[element.index].text += m_xml.text();
+                append((*element.list)[element.index].text, m_xml.text().toString());
         }
+    }
+
+    static void append(QString &text, const QString &more)
+    {
+        constexpr int longestText = 256;
+        if (text.size() < longestText)
+            text = (text + more.left(longestText)).left(longestText);
+        // So that white space before the text does not use the limit up.
+        if (!text.isEmpty() && text.front().isSpace())
+            text = text.trimmed();
     }
 
     QVector<LookOverride> *listFor(const QString &elementName)
@@ -85,8 +97,9 @@ private:
 
 LookOverrides readLookOverrides(const QString &path)
 {
+    // Only a file: opening a pipe would wait for its writer.
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return LookOverrides();
     return LookXmlReader(&file).read();
 }

@@ -66,6 +66,7 @@ QPixmap pixmapFromFile(const QString &path)
 } // namespace
 
 QPointer<CMenuEx> CButtonEx::s_pOpenMenu;
+QPointer<CButtonEx> CButtonEx::s_pMenuOpener;
 
 CButtonEx::CButtonEx(QWidget *parent)
     : QPushButton(parent),
@@ -92,7 +93,7 @@ CButtonEx::~CButtonEx()
     ZEL_LOG_SCOPE;
     m_pulseTimer.stop();
     m_glowTimer.stop();
-    if (!s_pOpenMenu.isNull() && s_pOpenMenu == d->m_pMenu)
+    if (s_pMenuOpener == this)
         s_pOpenMenu.clear(); // nobody is left to watch it
     CC4StyleFactory::releaseStyle(CC4StyleFactory::CC4Style);
     delete d;
@@ -109,13 +110,12 @@ void CButtonEx::setButtonStyle(CButtonStyles style)
 void CButtonEx::setButtonStyle(QString style)
 {
     ZEL_LOG_SCOPE;
-    m_sButtonStyle.clear();
-    for (const Look &look : looks) {
-        if (look.name != style)
-            continue;
-        m_buttonStyle = look.style;
-        m_sButtonStyle = look.name;
-    }
+    const auto *look = std::find_if(std::begin(looks), std::end(looks),
+                                    [&style](const Look &candidate) { return candidate.name == style; });
+    const bool isName = look != std::end(looks);
+    m_sButtonStyle = isName ? look->name : QString();
+    if (isName)
+        m_buttonStyle = look->style;
     update();
 }
 
@@ -147,7 +147,7 @@ void CButtonEx::setImage(const QPixmap &image)
 {
     ZEL_LOG_SCOPE;
     setPixmap(image);
-    resize(imageSize());
+    resize(zel::deviceIndependentSize(m_image));
 }
 
 void CButtonEx::setImage(const QString &path)
@@ -238,9 +238,13 @@ void CButtonEx::enterEvent(zel::EnterEvent *event)
     m_fGlowAlpha = 0.0F;
     m_iGlowDirection = 1;
     m_glowTimer.start(glowInterval, this);
+    const QPointer<CButtonEx> self(this); // who is told of a menu's end may destroy the button
     if (!s_pOpenMenu.isNull() && s_pOpenMenu != d->m_pMenu)
         s_pOpenMenu->hide();
+    if (self.isNull())
+        return;
     s_pOpenMenu = d->m_pMenu;
+    s_pMenuOpener = this;
     if (!s_pOpenMenu.isNull() && m_bMenuArmed && !m_bPressed)
         openMenu();
 }
@@ -337,9 +341,9 @@ void CButtonEx::watchMenu()
         ++d->m_iIdleTicks;
     if (d->m_iIdleTicks < idleTicksToClose)
         return;
-    s_pOpenMenu->hide();
     d->m_menuTimer.stop();
     d->m_iIdleTicks = 0;
+    s_pOpenMenu->hide(); // last: who is told of it may destroy the button
 }
 
 void CButtonEx::resizeEvent(QResizeEvent *event)
@@ -354,16 +358,10 @@ void CButtonEx::resizeEvent(QResizeEvent *event)
         setFixedWidth(std::max(contents, minimumWidth()));
 }
 
-// In the pixels that widgets count in. A null pixmap may have a ratio of 0.
-QSize CButtonEx::imageSize() const
-{
-    return m_image.isNull() ? QSize(0, 0) : m_image.size() / m_image.devicePixelRatioF();
-}
-
 int CButtonEx::widthForContents() const
 {
     const int textWidth = text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text());
-    const int imageWidth = imageSize().width();
+    const int imageWidth = zel::deviceIndependentSize(m_image).width();
     if (m_buttonStyle == BSEX_Glowing) {
         const int forImage = m_image.isNull() ? 0 : imageWidth + glowingImageMargin;
         return std::max(textWidth + glowingMargin, forImage);

@@ -21,14 +21,16 @@ class CMenuEx;
  * It takes the main style from CC4StyleFactory in its constructor, so the first button installs the house style, and
  * gives its reference back when it is destroyed. It stays usable under any other style.
  *
- * The button decides its own width from its text and image whenever it is resized; its size hint is 83 x 27 pixels. The
- * press shows by itself, so QAbstractButton's auto-repeat and animateClick have no effect on it.
+ * The button decides its own width from its text and image whenever it is resized; its size hint is 83 x 27 pixels.
+ * QAbstractButton's auto-repeat and animateClick have no effect on it.
+ *
+ * setDefault(), setFont(), font() and setMenu() hide operations of the base classes that are not virtual: call them on
+ * a CButtonEx.
  */
 class ZELCMNCTRL_EXPORT CButtonEx : public QPushButton
 {
     Q_OBJECT
-    /** The look by its name, such as "BSEX_Active". A text that is no name leaves the look and empties this property.
-     */
+    /** The look by its name, such as "BSEX_Active". A text that is no name keeps the look and empties the property. */
     Q_PROPERTY(QString buttonStyle READ getButtonStyle WRITE setButtonStyle)
 
 public:
@@ -69,6 +71,7 @@ public:
     void setPixmap(const QPixmap &image);
     const QPixmap &pixmap() const { return m_image; }
 
+    /** Sets the font of the label, with antialiasing preferred. */
     void setFont(const QFont &font);
     const QFont &font() const { return m_font; }
 
@@ -81,7 +84,8 @@ public:
     bool chevron() const { return m_bChevron; }
 
     /**
-     * Gives a glowing or transparent button a menu, and with it a chevron; other looks ignore the call.
+     * Gives a glowing or transparent button a menu, and with it a chevron; other looks ignore the call, so set the look
+     * first. Null takes the menu away and leaves the chevron.
      *
      * The menu must be a CMenuEx: any other is refused with a log record. It is not owned and may go before the button.
      * A glowing button opens it when the mouse enters, one button height above itself; it closes 1250 milliseconds
@@ -92,7 +96,7 @@ public:
 
     /** True only while the mouse is on a button whose menu it has opened. */
     bool isMouseOver() const { return m_bMouseOver; }
-    /** Strength of the glow: 0.0 at rest, about 1.0 under the mouse, in steps of 0.1 every 20 milliseconds. */
+    /** Strength of the glow: about 0.0 at rest and 1.0 under the mouse, in steps of 0.1 every 20 ms; -0.1 to 1.1. */
     float getGlowAlpha() const { return m_fGlowAlpha; }
 
     QSize sizeHint() const override;
@@ -100,7 +104,7 @@ public:
     QSize buttonSizeHint();
 
 Q_SIGNALS:
-    /** Fires after each clicked(), with the button itself. */
+    /** Fires with each clicked(), before the slots that an application has connected to that; names the button. */
     void clicked2(CButtonEx *sender);
 
 protected:
@@ -116,6 +120,8 @@ private Q_SLOTS:
     void onButtonPressed();
 
 private:
+    friend class MenuPointerWatch; // reports a press that an open menu took
+
     Q_DISABLE_COPY(CButtonEx)
 
     void openMenu();
@@ -123,7 +129,6 @@ private:
     void swell(int pixels);
     void stepGlow();
     void watchMenu();
-    QSize imageSize() const;
     int widthForContents() const;
 
     int m_iPulseStep = 0;
@@ -143,4 +148,5 @@ private:
     CButtonExPrivate *d;
 
     static QPointer<CMenuEx> s_pOpenMenu;
+    static QPointer<CButtonEx> s_pMenuOpener; // the button that watches it
 };

@@ -18,20 +18,23 @@ void MenuPointerWatch::start(QMenu *menu, CButtonEx *button)
 
 bool MenuPointerWatch::eventFilter(QObject *menu, QEvent *event)
 {
-    if (event->type() != QEvent::MouseMove || menu != m_menu || !m_menu->isVisible())
+    const bool moves = event->type() == QEvent::MouseMove;
+    const bool presses = event->type() == QEvent::MouseButtonPress;
+    if ((!moves && !presses) || menu != m_menu || !m_menu->isVisible())
         return false;
     const QPoint position = zel::globalPosition(static_cast<QMouseEvent *>(event));
     auto *button = qobject_cast<CButtonEx *>(QApplication::widgetAt(position));
-    if (button != m_hovered) {
-        const QPointer<MenuPointerWatch> self(this);
-        movePointerTo(button);
-        // What the buttons did may have closed the menu, and taken this object along.
-        return self.isNull() || m_menu.isNull() || !m_menu->isVisible();
-    }
-    return false;
+    // What the buttons do may close the menu, and take this object along.
+    const QPointer<MenuPointerWatch> self(this);
+    if (presses && button != nullptr)
+        button->onButtonPressed();
+    else if (moves && button != m_hovered)
+        movePointerTo(button, position);
+    const bool menuIsGone = self.isNull() || m_menu.isNull() || !m_menu->isVisible();
+    return menuIsGone;
 }
 
-void MenuPointerWatch::movePointerTo(CButtonEx *button)
+void MenuPointerWatch::movePointerTo(CButtonEx *button, const QPoint &position)
 {
     const QPointer<CButtonEx> entered(button);
     const QPointer<CButtonEx> left = m_hovered;
@@ -44,9 +47,7 @@ void MenuPointerWatch::movePointerTo(CButtonEx *button)
     }
     if (!entered.isNull() && !entered->testAttribute(Qt::WA_UnderMouse)) {
         entered->setAttribute(Qt::WA_UnderMouse);
-        const QPointF global = QCursor::pos();
-        const QPointF local = entered->mapFromGlobal(global.toPoint());
-        QEnterEvent enter(local, local, global);
+        QEnterEvent enter(entered->mapFromGlobal(position), entered->window()->mapFromGlobal(position), position);
         QCoreApplication::sendEvent(entered, &enter);
     }
 }

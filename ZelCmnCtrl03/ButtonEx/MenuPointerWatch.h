@@ -9,9 +9,9 @@ class QMenu;
 /**
  * Tells buttons that the pointer enters or leaves them while a menu is open.
  *
- * An open menu has all pointer events to itself, so the window system's enter and leave stay away from the buttons until
- * it closes: the button that opened it would never learn that the mouse has gone. The menu's own mouse moves say where
- * the pointer is.
+ * An open menu has all pointer events to itself, so the window system's enter and leave stay away from the buttons
+ * until it closes: the button that opened it would never learn that the mouse has gone. The menu's own mouse moves say
+ * where the pointer is.
  */
 class MenuPointerWatch : public QObject
 {
@@ -22,7 +22,7 @@ public:
     bool eventFilter(QObject *menu, QEvent *event) override;
 
 private:
-    void movePointerTo(CButtonEx *button);
+    void movePointerTo(CButtonEx *button, const QPoint &position);
 
     QPointer<QMenu> m_menu;
     QPointer<CButtonEx> m_hovered;

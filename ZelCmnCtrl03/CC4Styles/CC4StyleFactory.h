@@ -9,9 +9,8 @@
 /**
  * Hands out the library's shared style objects, one of each kind, counted by references.
  *
- * The first request for the main or the blue style also makes it the application's style; the application owns it from
- * then on, and keeps it after the last reference is given back. CButtonEx and CTextBoxEx take and release the main
- * style by themselves. An application stays with one of the two: installing the second destroys the first.
+ * The first request for the main style also makes it the application's style; the application owns it from then on, and
+ * keeps it after the last reference is given back. CButtonEx takes and releases the main style by itself.
  *
  * GUI thread only.
  */
@@ -33,7 +32,11 @@ public:
     /** The shared style of the kind, owned by the application; null, with a log record, for an unknown kind. */
     static QStyle *getStyle(CC4Styles styleType);
 
-    /** Gives one reference back. Destroys nothing: after the last one the factory only forgets the style. */
+    /**
+     * Gives one reference back. Destroys nothing: after the last one the factory only forgets the style.
+     *
+     * Match each getStyle that did not give null, once. An unknown kind changes nothing and leaves a log record.
+     */
     static void releaseStyle(CC4Styles styleType);
 
 private:

@@ -50,6 +50,18 @@ constexpr PaletteEntry paletteEntries[] = {
     {QPalette::LinkVisited, "LINKVISITED"},
 };
 
+// In the roles that the house palette sets; the others come from the platform's theme, and may change with it.
+bool hasHouseColours(const QPalette &palette, const QPalette &house)
+{
+    for (const PaletteEntry &entry : paletteEntries) {
+        for (const auto group : {QPalette::Disabled, QPalette::Active, QPalette::Inactive}) {
+            if (palette.brush(group, entry.role) != house.brush(group, entry.role))
+                return false;
+        }
+    }
+    return true;
+}
+
 void fillGroup(QPalette &palette, QPalette::ColorGroup group, const char *keyPrefix)
 {
     for (const PaletteEntry &entry : paletteEntries)
@@ -79,7 +91,7 @@ void CCommonControlStyle::polish(QApplication *application)
     if (QCoreApplication::testAttribute(Qt::AA_SetPalette))
         return;
     QApplication::setPalette(standardPalette());
-    m_iGivenPaletteKey = QApplication::palette().cacheKey();
+    m_bPaletteGiven = true;
 }
 
 void CCommonControlStyle::polish(QPalette &) {}
@@ -87,9 +99,9 @@ void CCommonControlStyle::polish(QPalette &) {}
 void CCommonControlStyle::unpolish(QApplication *application)
 {
     // An application that has set a palette since keeps it.
-    if (m_iGivenPaletteKey == QApplication::palette().cacheKey())
+    if (m_bPaletteGiven && hasHouseColours(QApplication::palette(), standardPalette()))
         QApplication::setPalette(QPalette());
-    m_iGivenPaletteKey = 0;
+    m_bPaletteGiven = false;
     QProxyStyle::unpolish(application);
 }
 
@@ -158,7 +170,8 @@ void CCommonControlStyle::drawTabItemText(QPainter *painter, const QRect &rect, 
 
 QString CCommonControlStyle::uniqueName(const QString &key, const QStyleOption *option, const QSize &size) const
 {
-    return PaintTools::stateKey(key, option, size);
+    const QByteArray latin1 = key.toLatin1();
+    return PaintTools::stateKey(QLatin1String(latin1), option, size);
 }
 
 void CCommonControlStyle::drawGradient(QPainter *painter, const QRect &rect, const QColor &topColor,

@@ -19,8 +19,8 @@ class QStyleOptionButton;
  *
  * Everything that it does not draw itself is drawn by its base: Plastique where Qt has that style, Fusion elsewhere.
  *
- * The painters below are what the style's own entry points call. An option of the wrong type paints nothing. All sizes
- * are pixels of the painter.
+ * The painters below are what the style's own entry points call. An option of the wrong type paints nothing; only the
+ * label of a push button goes to the base then. All sizes are pixels of the painter.
  */
 class ZELCMNCTRL_EXPORT CCommonControlStyle : public QProxyStyle
 {
@@ -30,7 +30,7 @@ public:
     CCommonControlStyle();
     ~CCommonControlStyle() override;
 
-    /** Deletes the style. For whoever owns one directly; never for one that an application has. */
+    /** Deletes the style. For whoever owns one directly: never for one that an application has, never on null. */
     void dispose();
 
     // What Qt asks of a style.
@@ -91,8 +91,7 @@ public:
     /** `factor` percent (0 to 100) of colorA in colorB, per channel, truncated; the alpha is colorA's. */
     QColor mergedColors(const QColor &colorA, const QColor &colorB, int factor) const;
 
-    /** `rect` with round corners; `radius` is the side of the corner arc's bounding box, twice the arc's true radius.
-     */
+    /** `rect` with round corners; `radius` is the side of the corner arc's box, twice the arc's true radius. */
     QPainterPath getRoundRectPath(const QRect &rect, int radius) const;
 
     /** The path of getRoundRectPath for direction 0, an empty path for any other. */
@@ -117,5 +116,5 @@ private:
     void drawHouseButtonLabel(const QStyleOptionButton *option, QPainter *painter, const CButtonEx *button) const;
 
     std::unique_ptr<QStyle> m_pNativeStyle; // draws the face of a push button that is no CButtonEx
-    qint64 m_iGivenPaletteKey = 0;          // the palette that this style gave to the application
+    bool m_bPaletteGiven = false;           // to the application, by polish()
 };

@@ -43,13 +43,14 @@ QBrush tiledBrush(QPixmap pixmap)
 
 } // namespace
 
-QString stateKey(const QString &key, const QStyleOption *option, const QSize &size)
+QString stateKey(QLatin1String key, const QStyleOption *option, const QSize &size)
 {
     const auto *complex = qstyleoption_cast<const QStyleOptionComplex *>(option);
     const QStyle::SubControls active = complex != nullptr ? complex->activeSubControls : QStyle::SC_None;
     const QLatin1Char dash('-');
-    QString text = QString::fromLatin1(key.toLatin1());
-    text.reserve(text.size() + 64);
+    QString text;
+    text.reserve(key.size() + 64);
+    text += key;
     text += dash;
     text += QString::number(static_cast<int>(option->state));
     text += dash;
@@ -67,12 +68,6 @@ qreal deviceRatio(const QPainter *painter)
 {
     const QPaintDevice *device = painter->device();
     return device != nullptr ? device->devicePixelRatioF() : 1.0;
-}
-
-QSize logicalSize(const QPixmap &pixmap)
-{
-    // A null pixmap may have a ratio of 0.
-    return pixmap.isNull() ? QSize(0, 0) : pixmap.size() / pixmap.devicePixelRatioF();
 }
 
 CachedPicture::CachedPicture(const QString &key, const QSize &size, const QPainter *painter)
@@ -155,9 +150,7 @@ void drawSlices(QPainter *painter, const QRect &rect, const ThreeSlices &slices,
     const qreal middle = rect.width() - reserve - left - right;
     if (slices.middle.isNull() || middle <= 0)
         return;
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(tiledBrush(slices.middle));
-    painter->drawRect(QRectF(rect.left() + left, rect.top(), middle, rect.height()));
+    painter->fillRect(QRectF(rect.left() + left, rect.top(), middle, rect.height()), tiledBrush(slices.middle));
 }
 
 } // namespace PaintTools

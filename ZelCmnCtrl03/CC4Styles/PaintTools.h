@@ -13,13 +13,10 @@ class QStyleOption;
 namespace PaintTools {
 
 /** The key of a picture that depends on the option's state, active sub-controls and palette, and on its size. */
-QString stateKey(const QString &key, const QStyleOption *option, const QSize &size);
+QString stateKey(QLatin1String key, const QStyleOption *option, const QSize &size);
 
 /** The device pixel ratio that a picture for this painter is wanted in. */
 qreal deviceRatio(const QPainter *painter);
-
-/** The size of a pixmap in the pixels that painters count in. */
-QSize logicalSize(const QPixmap &pixmap);
 
 /** A picture in QPixmapCache for one painter's device: found under its key, or new, empty and transparent. */
 class CachedPicture

@@ -4,6 +4,7 @@
 #include "ButtonEx/ButtonEx.h"
 #include "CC4Styles/PaintTools.h"
 #include "UiGraphics.h"
+#include "include/qt_compat.h"
 
 #include <QPainter>
 #include <QPushButton>
@@ -18,23 +19,25 @@ struct SlicedLook
     const char *bitmaps;
     const char *highlightTop;
     const char *highlightBottom;
-    int restingReserve; // pixels of the resting face that the middle leaves free
-    bool roomyImage;    // narrow buttons set their image further in, and keep it there on the pressed face
+    int restingReserve;       // pixels of the resting face that the middle leaves free
+    bool narrowInsets;        // a narrow button has its image further in
+    bool pressedImageIsInset; // the pressed face has its image where it stands beside a text, also without a text
 };
 
 constexpr SlicedLook normalLook{
-    "panelbuttoncommand", "PushbuttonWhite", "UIGCLR_PB_NORMAL_TOP", "UIGCLR_PB_NORMAL_BOTTOM", 1, false};
+    "panelbuttoncommand", "PushbuttonWhite", "UIGCLR_PB_NORMAL_TOP", "UIGCLR_PB_NORMAL_BOTTOM", 1, false, false};
 constexpr SlicedLook activeLook{
-    "panelActiveButtonCommand", "PushbuttonGreen", "UIGCLR_PB_ACTIVE_TOP", "UIGCLR_PB_ACTIVE_BOTTOM", 1, true};
+    "panelActiveButtonCommand", "PushbuttonGreen", "UIGCLR_PB_ACTIVE_TOP", "UIGCLR_PB_ACTIVE_BOTTOM", 1, true, true};
 constexpr SlicedLook trayLook{
-    "panelTrayButtonCommand", "PushbuttonBlue", "UIGCLR_PB_ACTIVE_TOP", "UIGCLR_PB_ACTIVE_BOTTOM", 0, true};
+    "panelTrayButtonCommand", "PushbuttonBlue", "UIGCLR_PB_ACTIVE_TOP", "UIGCLR_PB_ACTIVE_BOTTOM", 0, true, true};
 
-// The width from which a green or blue button has its image and text as close to the edge as a white one.
-constexpr int roomyWidth = 110;
+// Up to this width a green or blue button sets image and text further in. Image and label count it differently: the one
+// has the width that the image leaves, the other the label's own.
+constexpr int narrowUpTo = 110;
 constexpr int imageInset = 10;
-constexpr int roomyImageInset = 20;
+constexpr int narrowImageInset = 20;
 constexpr int textOffset = 11;
-constexpr int roomyTextOffset = 21;
+constexpr int narrowTextOffset = 21;
 
 constexpr int disabledOpacity = 0x99; // 60 percent
 
@@ -63,6 +66,7 @@ struct SlicedFace
     QString cacheKey(const QSize &size) const;
     QPoint imagePosition(const QSize &size) const;
     QPoint insetImagePosition(const QSize &size) const;
+    QPoint pressedImagePosition(const QSize &size) const;
 
     const SlicedLook &look;
     const QStyleOptionButton *option;
@@ -74,37 +78,46 @@ struct SlicedFace
     bool lit = false;
 };
 
-// The plain key says nothing of the image and its place, nor of the widget, and yet the picture shows both: two buttons
+// The plain key says nothing of the image and its place, nor of the widget, and yet the picture shows them: two buttons
 // of one size must not find each other's.
 QString SlicedFace::cacheKey(const QSize &size) const
 {
-    QString key = PaintTools::stateKey(QLatin1String(look.cacheName), option, size);
+    const QString key = PaintTools::stateKey(QLatin1String(look.cacheName), option, size);
     if (!hasWidget)
         return key + QLatin1String("-filled");
     if (!isPushButton)
         return key + QLatin1String("-unlit");
     if (image.isNull())
         return key;
-    key += QLatin1String("-image") + QString::number(image.cacheKey());
-    return option->text.isEmpty() ? key
-                                  : key + QLatin1String("-text") + QString::number(option->rect.left()) +
-                                        QLatin1Char('x') + QString::number(option->rect.top());
+    const QPoint place = imagePosition(size);
+    const QPoint pressedPlace = pressedImagePosition(size);
+    return key + QStringLiteral("-image%1-%2,%3-%4,%5")
+                     .arg(image.cacheKey())
+                     .arg(place.x())
+                     .arg(place.y())
+                     .arg(pressedPlace.x())
+                     .arg(pressedPlace.y());
 }
 
 QPoint SlicedFace::imagePosition(const QSize &size) const
 {
     if (!option->text.isEmpty())
         return insetImagePosition(size);
-    const QSize imageSize = PaintTools::logicalSize(image);
+    const QSize imageSize = zel::deviceIndependentSize(image);
     return QPoint((size.width() - imageSize.width()) / 2, (size.height() - imageSize.height()) / 2);
 }
 
 QPoint SlicedFace::insetImagePosition(const QSize &size) const
 {
-    const QSize imageSize = PaintTools::logicalSize(image);
-    const bool narrow = size.width() + 2 - imageSize.width() <= roomyWidth;
-    const int inset = look.roomyImage && narrow ? roomyImageInset : imageInset;
+    const QSize imageSize = zel::deviceIndependentSize(image);
+    const bool narrow = size.width() + 2 - imageSize.width() <= narrowUpTo;
+    const int inset = look.narrowInsets && narrow ? narrowImageInset : imageInset;
     return option->rect.topLeft() + QPoint(inset, (size.height() - imageSize.height()) / 2);
+}
+
+QPoint SlicedFace::pressedImagePosition(const QSize &size) const
+{
+    return look.pressedImageIsInset ? insetImagePosition(size) : imagePosition(size);
 }
 
 void drawHighlight(QPainter *painter, const QRect &rect, const SlicedLook &look)
@@ -138,10 +151,8 @@ void renderFace(QPainter *painter, const QRect &rect, const SlicedFace &face)
     if (face.pressed) {
         const QString pressedBitmaps = bitmaps + QLatin1String("Pressed");
         PaintTools::drawSlices(painter, rect, PaintTools::loadSlices(pressedBitmaps, rect.height(), ratio), 0);
-        const QPoint position =
-            face.look.roomyImage ? face.insetImagePosition(rect.size()) : face.imagePosition(rect.size());
         if (!face.image.isNull())
-            painter->drawPixmap(position, face.image);
+            painter->drawPixmap(face.pressedImagePosition(rect.size()), face.image);
     }
     if (face.lit)
         drawHighlight(painter, rect, face.look);
@@ -204,25 +215,33 @@ void setButtonText(QPalette &palette, const QColor &active, const QColor &disabl
     palette.setBrush(QPalette::Inactive, QPalette::ButtonText, active);
 }
 
+void setBlackLabel(QPalette &palette)
+{
+    const QColor black = UIGGetColor(QStringLiteral("UIGCLR_BLACK"));
+    setButtonText(palette, withAlpha(black, 0xC8), withAlpha(black, 0x3C));
+}
+
+void setWhiteLabel(QPalette &palette, const QString &disabledKey)
+{
+    setButtonText(palette, UIGGetColor(QStringLiteral("UIGCLR_WHITE")), UIGGetColor(disabledKey));
+}
+
 void setLabelColours(QPalette &palette, const CButtonEx *button)
 {
-    const QColor white = UIGGetColor(QStringLiteral("UIGCLR_WHITE"));
-    const QColor black = UIGGetColor(QStringLiteral("UIGCLR_BLACK"));
     switch (button->buttonStyle()) {
-    case CButtonEx::BSEX_Normal: return setButtonText(palette, withAlpha(black, 0xC8), withAlpha(black, 0x3C));
+    case CButtonEx::BSEX_Normal: return setBlackLabel(palette);
     case CButtonEx::BSEX_Transparent: return setButtonText(palette, button->textColor(), button->textColor());
-    case CButtonEx::BSEX_Glowing: return setButtonText(palette, white, white);
+    case CButtonEx::BSEX_Glowing: return setWhiteLabel(palette, QStringLiteral("UIGCLR_WHITE"));
     case CButtonEx::BSEX_Active:
-    case CButtonEx::BSEX_Tray:
-        return setButtonText(palette, white, UIGGetColor(QStringLiteral("UIGCLR_PALETTE_DISABLED_BUTTONTEXT")));
-    case CButtonEx::BSEX_Tertiary: return;
+    case CButtonEx::BSEX_Tray: return setWhiteLabel(palette, QStringLiteral("UIGCLR_PALETTE_DISABLED_BUTTONTEXT"));
+    case CButtonEx::BSEX_Tertiary: return; // keeps the palette's own
     }
 }
 
 int textOffsetBesideImage(CButtonEx::CButtonStyles look, const QRect &rect)
 {
-    const bool roomy = look == CButtonEx::BSEX_Active || look == CButtonEx::BSEX_Tray;
-    return roomy && rect.width() <= roomyWidth ? roomyTextOffset : textOffset;
+    const bool narrowInsets = look == CButtonEx::BSEX_Active || look == CButtonEx::BSEX_Tray;
+    return narrowInsets && rect.width() <= narrowUpTo ? narrowTextOffset : textOffset;
 }
 
 } // namespace
@@ -252,7 +271,7 @@ void CCommonControlStyle::drawTransparentPushButton(const QStyleOption *option, 
     if (buttonOption == nullptr || button == nullptr)
         return;
     const QRect rect = option->rect;
-    const QSize image = PaintTools::logicalSize(button->pixmap());
+    const QSize image = zel::deviceIndependentSize(button->pixmap());
     const int x = buttonOption->text.isEmpty() ? (rect.width() - image.width()) / 2 : rect.left();
     painter->save();
     painter->drawPixmap(x, (rect.height() - image.height()) / 2, button->pixmap());
@@ -276,7 +295,7 @@ void CCommonControlStyle::drawGlowingPushButton(const QStyleOption *option, QPai
         core.setAlphaF(strength * 0.7);
         drawGlow(painter, w, h, core, withAlpha(UIGGetColor(QStringLiteral("UIGCLR_BLACK")), 0));
     }
-    const QSize image = PaintTools::logicalSize(button->pixmap());
+    const QSize image = zel::deviceIndependentSize(button->pixmap());
     painter->drawPixmap((w - 14 - image.width()) / 2, (h - 15 - image.height()) / 2, button->pixmap());
     painter->restore();
 }
@@ -293,7 +312,7 @@ void CCommonControlStyle::drawPanelButtonCommand(const QStyleOption *option, QPa
     case CButtonEx::BSEX_Glowing: return drawGlowingPushButton(option, painter, widget);
     case CButtonEx::BSEX_Active: return drawActivePushButton(option, painter, widget);
     case CButtonEx::BSEX_Tray: return drawTrayPushButton(option, painter, widget);
-    case CButtonEx::BSEX_Tertiary: return;
+    case CButtonEx::BSEX_Tertiary: return; // has no face
     }
 }
 
@@ -373,7 +392,7 @@ void CCommonControlStyle::drawHouseButtonLabel(const QStyleOptionButton *option,
     font.setStyleStrategy(QFont::PreferAntialias);
     if (look == CButtonEx::BSEX_Glowing)
         font.setPixelSize(14);
-    painter->setFont(font);
+    painter->setFont(font); // and it stays: this is the last that is painted of a button
 
     QStyleOptionButton label = *option;
     setLabelColours(label.palette, button);
@@ -385,7 +404,7 @@ void CCommonControlStyle::drawHouseButtonLabel(const QStyleOptionButton *option,
     if (look == CButtonEx::BSEX_Glowing) {
         flags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextShowMnemonic;
     } else if (!button->pixmap().isNull()) {
-        const int imageWidth = PaintTools::logicalSize(button->pixmap()).width();
+        const int imageWidth = zel::deviceIndependentSize(button->pixmap()).width();
         label.rect.setLeft(label.rect.left() + imageWidth + textOffsetBesideImage(look, option->rect));
         flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
     }

@@ -143,14 +143,14 @@ void CMenuEx::startUnrolling()
 {
     const QPoint origin = mapToParent(QPoint(0, 0));
     const QPoint menuHeight(0, height());
-    m_direction = QApplication::widgetAt(origin - menuHeight) != nullptr ? Upward : Downward;
+    direction = QApplication::widgetAt(origin - menuHeight) != nullptr ? Upward : Downward;
     const QPoint top = mapToGlobal(QPoint(0, 0));
     const QPoint bottom = mapToGlobal(menuHeight);
-    m_startPoint = m_direction == Downward ? top : bottom;
-    m_endPoint = m_direction == Downward ? bottom : top;
+    startPoint = direction == Downward ? top : bottom;
+    endPoint = direction == Downward ? bottom : top;
 
     QWidget::setVisible(false);
-    move(m_startPoint);
+    move(startPoint);
     resize(width(), 0);
     m_growthTimer.start(growthInterval, this);
 }
@@ -167,9 +167,9 @@ void CMenuEx::timerEvent(QTimerEvent *event)
     }
     const int step = static_cast<int>(fullHeight * growthShare);
     const int newHeight = std::min(height() + step, fullHeight);
-    setGeometry(m_startPoint.x(), m_startPoint.y(), width(), newHeight);
-    if (m_direction == Upward)
-        m_startPoint.ry() -= step;
+    setGeometry(startPoint.x(), startPoint.y(), width(), newHeight);
+    if (direction == Upward)
+        startPoint.ry() -= step;
 }
 
 void CMenuEx::mouseReleaseEvent(QMouseEvent *event)
@@ -238,8 +238,8 @@ QPainterPath CMenuEx::getRoundRectPath()
     int y2 = 0;
     rect().getCoords(&x1, &y1, &x2, &y2);
     QPainterPath path;
-    if (m_direction == Downward) {
-        const int top = m_endPoint.y() - pos().y();
+    if (direction == Downward) {
+        const int top = endPoint.y() - pos().y();
         path.moveTo(x2 - cornerBox, top);
         path.lineTo(x1 + cornerBox, top);
         addCorner(path, x1, top, 90);
@@ -250,7 +250,7 @@ QPainterPath CMenuEx::getRoundRectPath()
         path.lineTo(x2, top + cornerBox);
         addCorner(path, x2 - cornerBox, top, 0);
     } else {
-        const int bottom = y2 - pos().y() + m_endPoint.y();
+        const int bottom = y2 - pos().y() + endPoint.y();
         path.moveTo(x2, y1 + cornerBox);
         addCorner(path, x2 - cornerBox, y1, 0);
         path.lineTo(x1 + cornerBox, y1);

@@ -15,8 +15,9 @@ class CMenuExPrivate;
  * The pop-up menu of the house: a QMenu that unrolls in steps of a tenth of its height, 10 milliseconds apart.
  *
  * It unrolls upward when a widget of the application lies one menu height above it, downward otherwise. Of the menus
- * that went through popup() one is open at a time. The pointer is a hand over enabled entries and an arrow over
- * disabled ones, and the release of the right button does nothing.
+ * that went through popup() one is open at a time. The pointer is a hand over enabled entries and, where the style lets
+ * those be highlighted, an arrow over disabled ones; this holds for entries of addMenuItem() and of addMenu() with a
+ * menu. The release of the right button does nothing.
  *
  * exec(), popup() and both addMenu() hide operations of QMenu that are not virtual: call them on a CMenuEx. Timers that
  * QMenu runs for itself have no effect here: a submenu opens by click or by key.
@@ -49,7 +50,7 @@ public:
     /** True from the pointer's entering the menu to its leaving. */
     bool cursorOnMenu();
 
-    /** Adds an entry with an optional icon, in the menu's own font. The caller owns the action. */
+    /** Adds an entry with an optional icon; sets the house font on it and on the menu. The caller owns the action. */
     QAction *addMenuItem(const QString &text, const QIcon *icon = nullptr);
 
     /** Adds a submenu, which is not owned, and gives its action; null for a null menu. */
@@ -74,7 +75,7 @@ private Q_SLOTS:
     void actionHovered();
 
 private:
-    friend class tst_MenuEx;
+    friend class tst_MenuEx; // the outlines have no other caller yet
 
     Q_DISABLE_COPY(CMenuEx)
 
@@ -88,14 +89,16 @@ private:
     QPainterPath getRoundRectPath();
     QPainterPath getRoundPath();
 
+    // Kept for whoever wants the menu's outline or its entries; nothing here reads them.
     QPainterPath m_path;
     QStringList m_itemTexts;
     QStringList m_submenuTitles;
-    QBasicTimer m_growthTimer;
-    int m_direction = Upward;
-    QPoint m_startPoint; // global; moves up with the top edge of a menu that unrolls upward
-    QPoint m_endPoint;   // global
     QPoint m_execPoint;
+
+    QBasicTimer m_growthTimer;
+    int direction = Upward;
+    QPoint startPoint; // global; moves up with the top edge of a menu that unrolls upward
+    QPoint endPoint;   // global
     CMenuExPrivate *d;
 
     static CMenuEx *currentPopup;

@@ -7,8 +7,9 @@
 #include <QStyleFactory>
 
 #ifdef Q_OS_WIN
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h> // builds on windows.h
 #endif
 
 namespace Platform {

@@ -20,7 +20,7 @@ bool registerPrivateFont(const QString &path);
 /**
  * The name under which the system shows the last component of `path` to the user.
  *
- * Null when the system does not know such a file or directory. On systems without display names of their own it is the
+ * Empty when the system does not know such a file or directory. On systems without display names of their own it is the
  * file name.
  */
 QString displayName(const QString &path);

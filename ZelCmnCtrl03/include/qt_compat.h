@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFont>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QPoint>
 #include <QtGlobal>
 
@@ -19,18 +20,26 @@ using EnterEvent = QEnterEvent;
 using EnterEvent = QEvent;
 #endif
 
-/** Sets a weight of the scale 0 to 99 (50 normal, 75 bold) that this library's callers use on every Qt. */
+/** Sets a weight of the scale 0 to 99 (50 normal, 75 bold), on every Qt. A weight beyond it counts as its end. */
 inline void setFontWeight(QFont &font, int weight)
 {
+    const int bounded = qBound(0, weight, 99);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     // Deprecated, and yet the only one that knows this scale.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
-    font.setLegacyWeight(weight);
+    font.setLegacyWeight(bounded);
     QT_WARNING_POP
 #else
-    font.setWeight(weight);
+    font.setWeight(bounded);
 #endif
+}
+
+/** The size of a pixmap in the pixels that widgets and painters count in. */
+inline QSize deviceIndependentSize(const QPixmap &pixmap)
+{
+    // A null pixmap may have a ratio of 0.
+    return pixmap.isNull() ? QSize(0, 0) : pixmap.size() / pixmap.devicePixelRatioF();
 }
 
 /** Where on the screen a mouse event happened. */

@@ -16,9 +16,9 @@ void logMessage(LogLevel level, const QString &message, const char16_t *componen
     CLogger::LogMessage(level, text(message), component, file, line);
 }
 
-void LogScope::write(LogLevel level) const
+void LogScope::write(const LogSite &site, LogLevel level)
 {
-    CLogger::LogMessage(level, m_pSite->function, m_pSite->component, m_pSite->file, m_pSite->line);
+    CLogger::LogMessage(level, site.function, site.component, site.file, site.line);
 }
 
 void logException(const QString &message)

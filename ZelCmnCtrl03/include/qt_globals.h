@@ -33,12 +33,21 @@ struct FixedText
 template <std::size_t N>
 constexpr FixedText<N> functionName(const char (&signature)[N])
 {
-    std::size_t end = 0;
-    while (end < N - 1 && signature[end] != '(')
-        ++end;
+    // The parameters are in the last pair of brackets; what stands in other pairs belongs to types.
+    std::size_t end = N - 1;
+    while (end > 0 && signature[end] != ')')
+        --end;
+    for (int depth = 1; end > 0 && depth > 0;) {
+        --end;
+        depth += signature[end] == ')' ? 1 : signature[end] == '(' ? -1 : 0;
+    }
     std::size_t begin = end;
-    while (begin > 0 && signature[begin - 1] != ' ' && signature[begin - 1] != '*' && signature[begin - 1] != '&')
-        --begin;
+    for (int depth = 0; begin > 0; --begin) {
+        const char before = signature[begin - 1];
+        depth += before == ')' || before == '>' ? 1 : before == '(' || before == '<' ? -1 : 0;
+        if (depth == 0 && (before == ' ' || before == '*' || before == '&'))
+            break;
+    }
     FixedText<N> name;
     for (std::size_t i = begin; i < end; ++i)
         name.text[i - begin] = static_cast<char16_t>(signature[i]);
@@ -47,7 +56,7 @@ constexpr FixedText<N> functionName(const char (&signature)[N])
 
 /** "/any/where/ZelCmnCtrl03/ButtonEx/ButtonEx.cpp" gives ".\ButtonEx\ButtonEx": the path that log records carry. */
 template <std::size_t N>
-constexpr FixedText<N> sourceName(const char (&path)[N])
+constexpr FixedText<N + 1> sourceName(const char (&path)[N])
 {
     constexpr char root[] = "ZelCmnCtrl03";
     constexpr std::size_t rootLength = sizeof(root) - 1;
@@ -60,11 +69,15 @@ constexpr FixedText<N> sourceName(const char (&path)[N])
         if (same == rootLength && (next == '/' || next == '\\'))
             begin = i + rootLength;
     }
-    FixedText<N> name;
-    std::size_t length = 0;
-    name.text[length++] = u'.';
-    for (std::size_t i = begin; i < N - 1 && path[i] != '.'; ++i)
-        name.text[length++] = path[i] == '/' ? u'\\' : static_cast<char16_t>(path[i]);
+    std::size_t end = N - 1;
+    for (std::size_t i = begin; i < N - 1; ++i) {
+        if (path[i] == '.')
+            end = i;
+    }
+    FixedText<N + 1> name;
+    name.text[0] = u'.';
+    for (std::size_t i = begin; i < end; ++i)
+        name.text[i - begin + 1] = path[i] == '/' ? u'\\' : static_cast<char16_t>(path[i]);
     return name;
 }
 
@@ -79,26 +92,27 @@ struct LogSite
 
 void logMessage(LogLevel level, const QString &message, const char16_t *component, const char16_t *file, int line);
 
-/** The pair of records around one operation. Switched off it costs the test in its constructor. */
+/** The pair of records around one operation. Switched off it costs the test of one flag. */
 class LogScope
 {
 public:
     explicit LogScope(const LogSite &site) : m_pSite(CLogger::isLevelWanted(LogEnter) ? &site : nullptr)
     {
         if (Q_UNLIKELY(m_pSite != nullptr))
-            write(LogEnter);
+            write(*m_pSite, LogEnter);
     }
     ~LogScope()
     {
         if (Q_UNLIKELY(m_pSite != nullptr))
-            write(LogExit);
+            write(*m_pSite, LogExit);
     }
     Q_DISABLE_COPY(LogScope)
 
 private:
-    void write(LogLevel level) const;
+    // Static, so that the scope's address never leaves the function and the scope can live in a register.
+    static void write(const LogSite &site, LogLevel level);
 
-    const LogSite *m_pSite;
+    const LogSite *const m_pSite;
 };
 
 /** Records an exception that was caught; never throws itself. */

@@ -301,11 +301,11 @@ void tst_MenuEx::outlines()
     QCOMPARE(whole.boundingRect(), QRectF(0, 0, 100, 80));
     QVERIFY(!whole.contains(QPointF(1, 1)) && whole.contains(QPointF(4, 4)) && whole.contains(QPointF(1, 40)));
 
-    menu.m_direction = CMenuEx::Downward;
-    menu.m_endPoint = QPoint(50, 90);
+    menu.direction = CMenuEx::Downward;
+    menu.endPoint = QPoint(50, 90);
     QCOMPARE(menu.getRoundRectPath().boundingRect(), QRectF(0, 30, 100, 50)); // the top edge stands at y 90
-    menu.m_direction = CMenuEx::Upward;
-    menu.m_endPoint = QPoint(50, 30);
+    menu.direction = CMenuEx::Upward;
+    menu.endPoint = QPoint(50, 30);
     QCOMPARE(menu.getRoundRectPath().boundingRect(), QRectF(0, 0, 100, 50)); // the bottom edge comes up
 }
 
