@@ -120,8 +120,6 @@ private Q_SLOTS:
     void onButtonPressed();
 
 private:
-    friend class MenuPointerWatch; // reports a press that an open menu took
-
     Q_DISABLE_COPY(CButtonEx)
 
     void openMenu();

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QWindow>
 
 void MenuPointerWatch::start(QMenu *menu, CButtonEx *button)
 {
@@ -22,16 +23,32 @@ bool MenuPointerWatch::eventFilter(QObject *menu, QEvent *event)
     const bool presses = event->type() == QEvent::MouseButtonPress;
     if ((!moves && !presses) || menu != m_menu || !m_menu->isVisible())
         return false;
-    const QPoint position = zel::globalPosition(static_cast<QMouseEvent *>(event));
+    const auto *mouse = static_cast<QMouseEvent *>(event);
+    const QPoint position = zel::globalPosition(mouse);
     auto *button = qobject_cast<CButtonEx *>(QApplication::widgetAt(position));
     // What the buttons do may close the menu, and take this object along.
     const QPointer<MenuPointerWatch> self(this);
     if (presses && button != nullptr)
-        button->onButtonPressed();
+        pressOn(button, *mouse);
     else if (moves && button != m_hovered)
         movePointerTo(button, position);
     const bool menuIsGone = self.isNull() || m_menu.isNull() || !m_menu->isVisible();
     return menuIsGone;
+}
+
+// One click closes the menu and is the button's. The press goes through the button's window, so that Qt knows the
+// button as the one that is down and gives it the release too; Qt's own replay would depend on the platform.
+void MenuPointerWatch::pressOn(CButtonEx *button, const QMouseEvent &press)
+{
+    const QPointer<QWindow> window = button->window()->windowHandle();
+    m_menu->setAttribute(Qt::WA_NoMouseReplay);
+    m_menu->hide();
+    if (window.isNull()) // gone with whatever the closing menu set off
+        return;
+    const QPoint position = zel::globalPosition(&press);
+    const QPoint local = window->mapFromGlobal(position);
+    QMouseEvent event(press.type(), local, local, position, press.button(), press.buttons(), press.modifiers());
+    QCoreApplication::sendEvent(window, &event);
 }
 
 void MenuPointerWatch::movePointerTo(CButtonEx *button, const QPoint &position)

@@ -5,12 +5,13 @@
 
 class CButtonEx;
 class QMenu;
+class QMouseEvent;
 
 /**
- * Tells buttons that the pointer enters or leaves them while a menu is open.
+ * Tells buttons that the pointer enters, leaves or presses them while a menu is open.
  *
  * An open menu has all pointer events to itself, so the window system's enter and leave stay away from the buttons
- * until it closes: the button that opened it would never learn that the mouse has gone. The menu's own mouse moves say
+ * until it closes: the button that opened it would never learn that the mouse has gone. The menu's own mouse events say
  * where the pointer is.
  */
 class MenuPointerWatch : public QObject
@@ -22,6 +23,7 @@ public:
     bool eventFilter(QObject *menu, QEvent *event) override;
 
 private:
+    void pressOn(CButtonEx *button, const QMouseEvent &press);
     void movePointerTo(CButtonEx *button, const QPoint &position);
 
     QPointer<QMenu> m_menu;

@@ -162,9 +162,27 @@ void tst_HoverMenu::pressClosesIt()
 {
     movePointer(freeCornerOf(*m_button));
     QTRY_COMPARE(m_menu->height(), m_menu->sizeHint().height());
+    // A press beside both closes it, as it does any menu; one on the button also keeps it away until the mouse has
+    // left.
     movePointer(away());
     click(1);
     QTRY_VERIFY(!m_menu->isVisible());
+    movePointer(freeCornerOf(*m_button));
+    QTRY_COMPARE(m_menu->height(), m_menu->sizeHint().height());
+    QTRY_VERIFY(m_menu->isVisible());
+    const QSignalSpy clicked(m_button, &CButtonEx::clicked2);
+    click(1);
+    QTRY_VERIFY(!m_menu->isVisible());
+    QTRY_COMPARE(static_cast<int>(clicked.count()), 1); // the same click is the button's
+    QVERIFY(!m_button->isDown());
+    for (int i = 1; i < 6; ++i)
+        movePointer(freeCornerOf(*m_button) - QPoint(i, i));
+    VERIFY_HOLDS_FOR(!m_menu->isVisible(), 500);
+    takePicture("pressed");
+    movePointer(away());
+    QTRY_VERIFY(!m_button->underMouse());
+    movePointer(freeCornerOf(*m_button));
+    QTRY_VERIFY(m_menu->isVisible());
 }
 
 void tst_HoverMenu::otherButtonTakesOver()
