@@ -263,6 +263,7 @@ void tst_ButtonEx::pulseSwellsAroundCentre()
     // A button with a text decides its own width: it swells upward and downward.
     QTRY_VERIFY(labelledRecorder.geometries.contains(labelledAtRest.adjusted(0, -1, 0, 1)));
     QTRY_COMPARE(static_cast<int>(recorder.geometries.count(bareAtRest)), 2); // two beats, each back to rest
+    VERIFY_HOLDS_FOR(bare.geometry() == bareAtRest, 800);                     // and a pause
 
     // Stopped in the middle of a beat it stays as it is.
     QTRY_COMPARE(bare.geometry(), bareAtRest.adjusted(-1, -1, 1, 1));
@@ -316,6 +317,8 @@ void tst_ButtonEx::glowOfOtherLooks()
     button.setEnabled(false);
     enter(button);
     VERIFY_HOLDS_FOR(button.getGlowAlpha() == 0.0F, 60);
+    leave(button);
+    VERIFY_HOLDS_FOR(button.getGlowAlpha() == 0.0F, 60);
 }
 
 void tst_ButtonEx::menuNeedsLookAndType()
@@ -339,6 +342,10 @@ void tst_ButtonEx::menuOpensOnEntryAndClosesWhenIdle()
     enter(pair.first);
     QVERIFY(pair.firstMenu.isVisible());
     QCOMPARE(pair.firstMenu.x(), pair.first.mapToGlobal(QPoint(0, 0)).x());
+    // One button height above the button, where it unrolls from its top or from its foot.
+    const int top = pair.first.mapToGlobal(QPoint(0, 0)).y() - pair.first.height();
+    const int foot = top + pair.firstMenu.sizeHint().height();
+    QVERIFY2(pair.firstMenu.y() == top || pair.firstMenu.y() == foot, qPrintable(QString::number(pair.firstMenu.y())));
     QVERIFY(pair.first.isMouseOver());
     QVERIFY(!pair.first.isDown());
 
@@ -419,7 +426,16 @@ void tst_ButtonEx::menuAndButtonMayGo()
     QVERIFY(pair.firstMenu.isVisible());
     pair.firstMenu.hide();
 
-    // A slot of the menu destroys the button while it opens the menu.
+    // Slots of the menu destroy the button: while the menu closes, while it opens.
+    auto *closing = new CButtonEx(&pair.window);
+    GlowingPair::prepare(*closing, pair.secondMenu, 10);
+    closing->show();
+    connect(&pair.secondMenu, &QMenu::aboutToHide, closing, [closing] { delete closing; });
+    const QPointer<CButtonEx> closed(closing);
+    enter(*closing);
+    leave(*closing);
+    QTRY_VERIFY_WITH_TIMEOUT(closed.isNull(), 3000);
+
     auto *doomed = new CButtonEx(&pair.window);
     GlowingPair::prepare(*doomed, pair.firstMenu, 10);
     doomed->show();

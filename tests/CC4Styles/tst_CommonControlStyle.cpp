@@ -13,7 +13,7 @@ class tst_CommonControlStyle : public HouseTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { installHouseStyle(); }
     void paletteComesFromTheRegistry_data();
     void paletteComesFromTheRegistry();
     void paletteGoesWithTheStyle();
@@ -32,11 +32,12 @@ private Q_SLOTS:
     void tabItemText();
 
 private:
+    void installHouseStyle();
     const CCommonControlStyle &house() const { return *m_style; }
     CCommonControlStyle *m_style = nullptr;
 };
 
-void tst_CommonControlStyle::initTestCase()
+void tst_CommonControlStyle::installHouseStyle()
 {
     m_style = new CCommonControlStyle;
     QApplication::setStyle(m_style);
@@ -81,7 +82,7 @@ void tst_CommonControlStyle::paletteGoesWithTheStyle()
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QVERIFY(QApplication::palette().color(QPalette::Button) != house.color(QPalette::Button));
     QVERIFY(!QCoreApplication::testAttribute(Qt::AA_SetPalette));
-    initTestCase();
+    installHouseStyle();
     QCOMPARE(QApplication::palette().color(QPalette::Button), house.color(QPalette::Button));
 
     QPalette anything(Qt::green);
@@ -93,12 +94,12 @@ void tst_CommonControlStyle::paletteGoesWithTheStyle()
 void tst_CommonControlStyle::paletteOfTheApplicationWins()
 {
     QApplication::setPalette(QPalette(Qt::green));
-    initTestCase();
+    installHouseStyle();
     QCOMPARE(QApplication::palette().color(QPalette::Button), QColor(Qt::green));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QCOMPARE(QApplication::palette().color(QPalette::Button), QColor(Qt::green));
     QApplication::setPalette(QPalette());
-    initTestCase();
+    installHouseStyle();
     QCOMPARE(QApplication::palette().color(QPalette::Button), QColor(0xDD, 0xDF, 0xE4));
 }
 
@@ -273,21 +274,36 @@ void tst_CommonControlStyle::itemTextIsAntialiased()
 
 void tst_CommonControlStyle::tabItemText()
 {
+    struct DisabledTextStyle : public CCommonControlStyle
+    {
+        int styleHint(StyleHint hint, const QStyleOption *, const QWidget *, QStyleHintReturn *) const override
+        {
+            return hint == wanted ? 1 : 0;
+        }
+        StyleHint wanted = SH_EtchDisabledText;
+    } style;
     const QPalette palette = house().standardPalette();
     const QRect rect(0, 0, 80, 20);
-    const auto paint = [&](const QString &text, bool enabled) {
+    QColor penAfter;
+    const auto paint = [&](const QString &text, bool enabled, QPalette::ColorRole role) {
         return Picture::of(rect.size(), [&](QPainter *painter) {
             painter->setPen(Qt::red);
-            house().drawTabItemText(painter, rect, Qt::AlignCenter, palette, enabled, text, QPalette::WindowText);
-            QCOMPARE(painter->pen().color(), QColor(Qt::red));
+            style.drawTabItemText(painter, rect, Qt::AlignCenter, palette, enabled, text, role);
+            penAfter = painter->pen().color();
             QVERIFY(!painter->testRenderHint(QPainter::Antialiasing));
         });
     };
-    QVERIFY(!Picture::paintsOutside(paint(QString(), true), QRect()));
-    const QImage enabled = paint(QStringLiteral("Print"), true);
+    const QString text = QStringLiteral("Print");
+    QVERIFY(!Picture::paintsOutside(paint(QString(), true, QPalette::WindowText), QRect()));
+    const QImage enabled = paint(text, true, QPalette::WindowText);
     QVERIFY(Picture::paintsOutside(enabled, QRect()));
-    if (house().styleHint(QStyle::SH_EtchDisabledText) != 0)
-        QVERIFY(paint(QStringLiteral("Print"), false) != enabled); // etched: drawn twice
+    QCOMPARE(penAfter, QColor(Qt::red));
+    QVERIFY(paint(text, true, QPalette::NoRole) != enabled);      // in the painter's own pen
+    QVERIFY(paint(text, false, QPalette::WindowText) != enabled); // etched
+    QCOMPARE(penAfter, QColor(Qt::red));
+    style.wanted = QStyle::SH_DitherDisabledText;
+    QVERIFY(paint(text, false, QPalette::WindowText) != enabled);
+    QCOMPARE(penAfter, palette.color(QPalette::WindowText)); // left in place
 }
 
 HOUSE_TEST_MAIN(tst_CommonControlStyle)

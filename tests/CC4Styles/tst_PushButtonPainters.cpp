@@ -27,6 +27,14 @@ public:
         textFont = painter->font();
     }
 
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override
+    {
+        return hint == SH_UnderlineShortcut ? underlinesShortcuts
+                                            : CCommonControlStyle::styleHint(hint, option, widget, returnData);
+    }
+
+    bool underlinesShortcuts = true;
     mutable QStringList texts;
     mutable QRect textRect;
     mutable int textFlags = 0;
@@ -101,6 +109,7 @@ private Q_SLOTS:
     void imagePlace_data();
     void imagePlace();
     void imagesAreNotShared();
+    void imagesOfEqualButtonsElsewhere();
     void faceWithoutWidget();
     void wrongOptionPaintsNothing();
     void panelOfOtherWidgets();
@@ -141,6 +150,11 @@ void tst_PushButtonPainters::initTestCase()
         saveSlice(directory, name + QStringLiteral("PressedRightCap"), rightCap / 2, pressedRight);
         saveSlice(directory, name + QStringLiteral("PressedBlit"), 4, pressedMiddle);
     }
+    QFile xml(directory.filePath(QStringLiteral("UIGraphics.xml")));
+    QVERIFY(xml.open(QIODevice::WriteOnly));
+    xml.write("<look><Color Name='UIGCLR_PB_ACTIVE_TOP'>00FFFF</Color><Color Name='UIGCLR_PB_ACTIVE_BOTTOM'>000080"
+              "</Color></look>");
+    xml.close();
     m_style = std::make_unique<RecordingStyle>();
 }
 
@@ -223,8 +237,9 @@ void tst_PushButtonPainters::highlight()
     CButtonEx button;
     button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
     const QImage image = face(button, optionFor(button, QString(), state));
-    const QColor top(0xFF, 0xDA, 0xB2);
-    const QColor bottom(0xF7, 0x94, 0x1D);
+    const bool isWhite = button.buttonStyle() == CButtonEx::BSEX_Normal;
+    const QColor top = isWhite ? QColor(0xFF, 0xDA, 0xB2) : QColor(0x00, 0xFF, 0xFF);
+    const QColor bottom = isWhite ? QColor(0xF7, 0x94, 0x1D) : QColor(0x00, 0x00, 0x80);
     QCOMPARE(image.pixelColor(50, 0), top);
     QCOMPARE(image.pixelColor(50, 1), top);
     QCOMPARE(image.pixelColor(50, 2), restingMiddle);
@@ -268,6 +283,7 @@ void tst_PushButtonPainters::imagePlace_data()
     row("green, beside text, narrow", CButtonEx::BSEX_Active, "Text", resting, 9, {20});
     row("green, pressed, always in its place beside text", CButtonEx::BSEX_Active, "", sunken, 9, {20});
     row("blue, beside text, narrow", CButtonEx::BSEX_Tray, "Text", resting, 9, {20});
+    row("blue, pressed, centred and in its place beside text", CButtonEx::BSEX_Tray, "", sunken, 9, {20});
 }
 
 void tst_PushButtonPainters::imagePlace()
@@ -290,9 +306,12 @@ void tst_PushButtonPainters::imagePlace()
     QCOMPARE(image.pixelColor(columns.first(), 7), imageColor); // (20 - 5) / 2
     QVERIFY(image.pixelColor(columns.first(), 6) != imageColor);
 
-    // From a width of 110 on the narrow inset gives way.
+    // Where the image leaves more than 110 pixels, and two, the narrow inset gives way.
     QStyleOptionButton wide = optionFor(button, QStringLiteral("Text"));
-    wide.rect.setWidth(118);
+    wide.rect.setWidth(110 - 2 + imageWidth);
+    const bool isWhite = button.buttonStyle() == CButtonEx::BSEX_Normal;
+    QCOMPARE(face(button, wide).pixelColor(10, 9) == imageColor, isWhite);
+    wide.rect.setWidth(111 - 2 + imageWidth);
     QCOMPARE(face(button, wide).pixelColor(10, 9), imageColor);
 }
 
@@ -313,6 +332,22 @@ void tst_PushButtonPainters::imagesAreNotShared()
     QVERIFY(QPixmapCache::find(m_style->uniqueName(QStringLiteral("panelbuttoncommand"), &option, buttonSize),
                                &cached)); // without an image the key is the plain one
     QCOMPARE(face(first, option).pixelColor(50, 10), QColor(Qt::red));
+}
+
+// The place of an image counts from the rectangle that is painted, so it is part of what the cache tells apart.
+void tst_PushButtonPainters::imagesOfEqualButtonsElsewhere()
+{
+    CButtonEx button;
+    button.setButtonStyle(CButtonEx::BSEX_Active);
+    button.setPixmap(imageOf(9, 5));
+    QStyleOptionButton option = optionFor(button, QString(), sunken);
+    face(button, option);
+    option.rect.translate(7, 0);
+    const QImage image = Picture::of(QSize(120, 20), [&](QPainter *painter) {
+        m_style->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, painter, &button);
+    });
+    QCOMPARE(image.pixelColor(7 + 20 + 7, 10), imageColor);
+    QVERIFY(image.pixelColor(7 + 20 + 6, 10) != imageColor);
 }
 
 void tst_PushButtonPainters::faceWithoutWidget()
@@ -405,6 +440,8 @@ void tst_PushButtonPainters::glowingFace()
         QVERIFY(at(4) < at(12) && at(12) < at(20));
     }
     QVERIFY(image.pixelColor(4, 4).alpha() < 40);
+    const QColor outline = image.pixelColor(60, 0);
+    QVERIFY2(outline.alpha() >= 0x50 && outline.lightness() > 240, qPrintable(outline.name(QColor::HexArgb)));
 }
 
 void tst_PushButtonPainters::flatButtons()
@@ -465,13 +502,18 @@ void tst_PushButtonPainters::plainButtonHasOneLabel()
     QVERIFY(Picture::paintsOutside(image, QRect())); // a native face
     QCOMPARE(m_style->texts, QStringList(QStringLiteral("Text")));
     QCOMPARE(m_style->textRect, m_style->subElementRect(QStyle::SE_PushButtonContents, &option, &plain));
-    QVERIFY(m_style->textFlags == 0x884 || m_style->textFlags == 0x8884);
+    QCOMPARE(m_style->textFlags, 0x884);
+    m_style->underlinesShortcuts = false;
+    control(QStyle::CE_PushButtonLabel, plain, option);
+    QCOMPARE(m_style->textFlags, 0x8884);
+    m_style->underlinesShortcuts = true;
+    m_style->texts.clear();
 
     option.icon = QIcon(imageOf(16, 16));
     option.iconSize = QSize(16, 16);
     const QImage withIcon = control(QStyle::CE_PushButtonLabel, plain, option);
     QVERIFY(Picture::paintsOutside(withIcon, QRect())); // the icon of a plain button is not lost
-    QCOMPARE(static_cast<int>(m_style->texts.size()), 2);
+    QCOMPARE(m_style->texts, QStringList(QStringLiteral("Text")));
 }
 
 void tst_PushButtonPainters::labelColours_data()
@@ -524,6 +566,7 @@ void tst_PushButtonPainters::labelPlace_data()
     row("green, image, narrow", CButtonEx::BSEX_Active, 110, true, 16 + 21, 0x881);
     row("green, image, wide", CButtonEx::BSEX_Active, 111, true, 16 + 11, 0x881);
     row("blue, image, narrow", CButtonEx::BSEX_Tray, 110, true, 16 + 21, 0x881);
+    row("blue, image, wide", CButtonEx::BSEX_Tray, 111, true, 16 + 11, 0x881);
     row("glowing, image", CButtonEx::BSEX_Glowing, 100, true, 0, 0x844);
 }
 
@@ -555,25 +598,40 @@ void tst_PushButtonPainters::labelPlace()
 void tst_PushButtonPainters::everyStateAndSizeIsSafe()
 {
     CButtonEx button;
-    button.setPixmap(imageOf(30, 30));
+    button.setPixmap(imageOf(3, 3));
+    button.setChevron(true);
+    button.setButtonStyle(CButtonEx::BSEX_Glowing);
     QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QCoreApplication::sendEvent(&button, &enter);
+    QTRY_VERIFY(button.getGlowAlpha() > 0.95F);
+    const QPoint place(4, 6);
     for (int look : {0, 1, 2, 4, 8, 16}) {
         button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
-        QCoreApplication::sendEvent(&button, &enter);
-        for (int state = 0; state < 64; ++state) {
-            QStyleOptionButton option = optionFor(button, state % 2 != 0 ? QStringLiteral("T&ext") : QString());
-            option.state = QStyle::State((state & 2) != 0 ? QStyle::State_Enabled : QStyle::State_None);
-            option.state.setFlag(QStyle::State_Sunken, (state & 4) != 0);
-            option.state.setFlag(QStyle::State_MouseOver, (state & 8) != 0);
-            option.features.setFlag(QStyleOptionButton::DefaultButton, (state & 16) != 0);
-            option.direction = (state & 32) != 0 ? Qt::RightToLeft : Qt::LeftToRight;
-            for (const QSize &size : {QSize(0, 0), QSize(1, 1), QSize(7, 3), QSize(43, 27), QSize(300, 60)}) {
-                option.rect = QRect(QPoint(0, 0), size);
-                const QImage image = Picture::of(QSize(320, 80), [&](QPainter *painter) {
-                    painter->setClipRect(option.rect);
-                    m_style->drawControl(QStyle::CE_PushButton, &option, painter, &button);
-                });
-                QVERIFY(!Picture::paintsOutside(image, option.rect));
+        const bool isBitmapLook = look == 0 || look == 4 || look == 8;
+        for (int bits = 0; bits < 256; ++bits) {
+            QStyleOptionButton option = optionFor(button, QString(), QStyle::State_None);
+            option.state.setFlag(QStyle::State_Enabled, (bits & 1) != 0);
+            option.state.setFlag(QStyle::State_Sunken, (bits & 2) != 0);
+            option.state.setFlag(QStyle::State_On, (bits & 4) != 0);
+            option.state.setFlag(QStyle::State_MouseOver, (bits & 8) != 0);
+            option.features.setFlag(QStyleOptionButton::AutoDefaultButton, (bits & 16) != 0);
+            option.features.setFlag(QStyleOptionButton::Flat, (bits & 32) != 0);
+            option.direction = (bits & 64) != 0 ? Qt::RightToLeft : Qt::LeftToRight;
+            const qreal ratio = (bits & 128) != 0 ? 2.0 : 1.0;
+            for (const QSize &size : {QSize(0, 0), QSize(1, 1), QSize(7, 3), QSize(43, 27), QSize(60, 60)}) {
+                option.rect = QRect(place, size);
+                const auto draw = [&](QPainter *painter) {
+                    const QPen pen = painter->pen();
+                    const QBrush brush = painter->brush();
+                    m_style->drawControl(QStyle::CE_PushButtonBevel, &option, painter, &button);
+                    QCOMPARE(painter->pen(), pen);
+                    QCOMPARE(painter->brush(), brush);
+                    QCOMPARE(painter->compositionMode(), QPainter::CompositionMode_SourceOver);
+                    QVERIFY(!painter->hasClipping());
+                };
+                const QImage image = Picture::of(QSize(80, 80), draw, ratio);
+                const QRect allowed(place * ratio, size * ratio);
+                QVERIFY2(!isBitmapLook || !Picture::paintsOutside(image, allowed), qPrintable(QString::number(bits)));
             }
         }
     }

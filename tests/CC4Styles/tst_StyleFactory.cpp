@@ -63,7 +63,7 @@ void tst_StyleFactory::unknownKindsGiveNothing_data()
 void tst_StyleFactory::unknownKindsGiveNothing()
 {
     QFETCH(int, kind);
-    const CC4StyleFactory::CC4Styles unknown(static_cast<CC4StyleFactory::Styles>(kind));
+    const CC4StyleFactory::CC4Styles unknown{QFlag(kind)};
     QStyle *style = CC4StyleFactory::getStyle(mainStyle);
     QVERIFY(CC4StyleFactory::getStyle(unknown) == nullptr);
     QCOMPARE(QApplication::style(), style);

@@ -213,6 +213,7 @@ void tst_MenuEx::needsAnActiveWindow()
     fill(menu);
     menu.popup(QPoint(500, 300));
     QVERIFY(menu.isHidden());
+    QCOMPARE(CMenuEx::currentPopup, &menu); // and yet it takes the place
 }
 
 void tst_MenuEx::deletedMenuIsForgotten()
@@ -224,6 +225,7 @@ void tst_MenuEx::deletedMenuIsForgotten()
         first.popup(QPoint(500, 300));
         QVERIFY(first.isVisible());
     }
+    QVERIFY(CMenuEx::currentPopup == nullptr);
     CMenuEx second;
     fill(second);
     second.popup(QPoint(500, 300));
