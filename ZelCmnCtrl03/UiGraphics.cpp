@@ -101,10 +101,9 @@ void CUIGraphics::readXmlFiles()
     if (m_sGraphicsDir.isEmpty())
         return;
     // The language's file comes second, so that its values win.
-    for (const QString &path : {m_sGraphicsDir + xmlName, m_sGraphicsDir + QLatin1Char('/') + m_sLanguage + xmlName}) {
+    for (const QString &path : {m_sGraphicsDir + xmlName, m_sGraphicsDir + QLatin1Char('/') + m_sLanguage + xmlName})
         if (QFile::exists(path))
             ReadUIGraphicsXml(path);
-    }
 }
 
 void CUIGraphics::ReadUIGraphicsXml(const QString &path)

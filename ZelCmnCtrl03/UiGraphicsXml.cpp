@@ -64,10 +64,9 @@ private:
     {
         if (m_wanted == 0)
             return;
-        for (const OpenElement &element : std::as_const(m_open)) {
+        for (const OpenElement &element : std::as_const(m_open))
             if (element.list != nullptr)
                 append((*element.list)[element.index].text, m_xml.text().toString());
-        }
     }
 
     static void append(QString &text, const QString &more)

@@ -32,9 +32,8 @@ std::atomic<std::uint32_t> CLogger::s_wantedLevels{0xFFFFFFFFU};
 void CLogger::LogMessage(int level, const char16_t *message, const char16_t *component, const char16_t *file,
                          int line) noexcept
 {
-    if (!isLevelWanted(level)) {
+    if (!isLevelWanted(level))
         return;
-    }
     const zelcutil::platform::ErrorCodeKeeper keeper;
     const zelcutil::platform::WriteSignalBlocker blocker;
     try {

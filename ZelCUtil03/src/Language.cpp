@@ -15,9 +15,8 @@ bool isAsciiLetter(char character)
 // The script decides before the country: zh_Hans_HK is read by someone who wants simplified characters.
 std::string chineseTag(std::string_view rest)
 {
-    if (startsWith(rest, "hans")) {
+    if (startsWith(rest, "hans"))
         return "zh-chs";
-    }
     const bool traditional = startsWith(rest, "hant") || rest == "tw" || rest == "hk" || rest == "mo";
     return traditional ? "zh-cht" : "zh-chs";
 }
@@ -34,15 +33,12 @@ std::string languageTag(std::string_view localeName)
 
     // A locale may also be a path (glibc takes one); such a name tells no language.
     const bool letters = std::all_of(language.begin(), language.end(), isAsciiLetter);
-    if (language.empty() || !letters || language == "c" || language == "posix") {
+    if (language.empty() || !letters || language == "c" || language == "posix")
         return "en";
-    }
-    if (language == "zh") {
+    if (language == "zh")
         return chineseTag(rest);
-    }
-    if (language == "iw") {
+    if (language == "iw")
         return "he"; // the code that ISO 639 withdrew in 1989 and old locales still carry
-    }
     return language == "pt" && rest == "br" ? "pt-br" : language;
 }
 

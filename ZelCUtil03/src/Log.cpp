@@ -31,21 +31,17 @@ bool breaksLine(char16_t unit)
 // pauses, and because rotating anything but a regular file (renaming /dev/stdout, say) would do damage.
 std::string obstacle(const std::filesystem::path &file)
 {
-    if (file.empty()) {
+    if (file.empty())
         return "no home folder is known";
-    }
     std::error_code error;
     std::filesystem::create_directories(file.parent_path(), error);
-    if (error) {
+    if (error)
         return error.message();
-    }
     const std::filesystem::file_status status = std::filesystem::status(file, error);
-    if (std::filesystem::is_directory(status)) {
+    if (std::filesystem::is_directory(status))
         return "it is a directory";
-    }
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
         return "it is not a regular file";
-    }
     errno = 0;
     const std::ofstream trial(file, std::ios::app);
     return trial.is_open() ? std::string() : std::generic_category().message(errno);
@@ -61,9 +57,8 @@ Log::Log(const LogPlan &plan) : m_logger("ZelCUtil03")
     m_logger.set_level(spdlog::level::trace); // the sinks decide
     m_logger.set_error_handler([this](const std::string &failure) { giveUpFile(failure); });
     m_logger.set_pattern(linePattern);
-    if (plan.fileLevel != spdlog::level::off) {
+    if (plan.fileLevel != spdlog::level::off)
         openFile(plan);
-    }
 }
 
 void Log::openFile(const LogPlan &plan)
@@ -93,9 +88,8 @@ void Log::openFile(const LogPlan &plan)
 void Log::giveUpFile(const std::string &failure)
 {
     const bool isOpen = m_fileSink != nullptr && m_fileSink->level() != spdlog::level::off;
-    if (!isOpen || failure.find(m_fileName) == std::string::npos) {
+    if (!isOpen || failure.find(m_fileName) == std::string::npos)
         return; // standard error failed, and that can be told to nobody
-    }
     m_fileSink->set_level(spdlog::level::off);
     m_logger.flush_on(spdlog::level::off);
     m_logger.log(spdlog::level::warn, "ZelCUtil03: the log is given up: " + failure +
@@ -119,13 +113,11 @@ void Log::warn(const std::string &text)
 std::uint32_t Log::wantedLevels() const
 {
     spdlog::level::level_enum lowest = spdlog::level::off;
-    for (const spdlog::sink_ptr &sink : m_logger.sinks()) {
+    for (const spdlog::sink_ptr &sink : m_logger.sinks())
         lowest = std::min(lowest, sink->level());
-    }
     std::uint32_t wanted = 0;
-    for (std::uint32_t level = 0; level < levelBits; ++level) {
+    for (std::uint32_t level = 0; level < levelBits; ++level)
         wanted |= levelOf(static_cast<int>(level)) >= lowest ? 1U << level : 0U;
-    }
     return wanted;
 }
 

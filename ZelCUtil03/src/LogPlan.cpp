@@ -20,9 +20,8 @@ struct Choice
 Choice choose(const char *variable, const Settings &settings, const char *key)
 {
     const std::string fromEnvironment = platform::environmentValue(variable);
-    if (!fromEnvironment.empty()) {
+    if (!fromEnvironment.empty())
         return {fromEnvironment, variable};
-    }
     return {settings.value("Log", key), std::string(key) + " in section [Log]"};
 }
 
@@ -32,11 +31,9 @@ std::optional<spdlog::level::level_enum> levelNamed(const std::string &name)
     constexpr std::pair<const char *, spdlog::level::level_enum> levels[] = {
         {"off", spdlog::level::off},   {"error", spdlog::level::err},   {"warning", spdlog::level::warn},
         {"info", spdlog::level::info}, {"debug", spdlog::level::debug}, {"trace", spdlog::level::trace}};
-    for (const auto &[levelName, level] : levels) {
-        if (asciiLower(name) == levelName) {
+    for (const auto &[levelName, level] : levels)
+        if (asciiLower(name) == levelName)
             return level;
-        }
-    }
     return std::nullopt;
 }
 
@@ -67,9 +64,8 @@ LogPlan planLog(const Settings &settings)
         plan.consoleLevel = spdlog::level::off;
         return plan;
     }
-    if (!level && file.value.empty()) {
+    if (!level && file.value.empty())
         return plan;
-    }
     plan.fileLevel = level.value_or(spdlog::level::debug); // who names a file wants to read more than warnings in it
     plan.file = logFile(file.value);
     return plan;

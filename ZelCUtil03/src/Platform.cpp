@@ -48,9 +48,8 @@ std::filesystem::path belowHome(const char *relative)
 std::string expandHome(const std::string &text)
 {
     const std::filesystem::path home = homeDirectory();
-    if (!startsWith(text, "~/") || home.empty()) {
+    if (!startsWith(text, "~/") || home.empty())
         return text;
-    }
     return (home / std::filesystem::u8path(text.substr(2))).u8string();
 }
 
@@ -82,9 +81,8 @@ std::filesystem::path libraryDirectory()
 {
     HMODULE module = nullptr;
     const DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-    if (!GetModuleHandleExW(flags, reinterpret_cast<LPCWSTR>(&libraryDirectory), &module)) {
+    if (!GetModuleHandleExW(flags, reinterpret_cast<LPCWSTR>(&libraryDirectory), &module))
         return {};
-    }
     std::wstring name(32768, L'\0'); // the longest path that Windows can form
     name.resize(GetModuleFileNameW(module, name.data(), static_cast<DWORD>(name.size())));
     return std::filesystem::path(name).parent_path();
@@ -124,16 +122,14 @@ std::filesystem::path userSettingsDirectory()
 std::vector<std::filesystem::path> systemSettingsDirectories()
 {
     std::string list = environmentValue("XDG_CONFIG_DIRS");
-    if (list.empty()) {
+    if (list.empty())
         list = "/etc/xdg";
-    }
     std::vector<std::filesystem::path> directories;
     for (std::size_t begin = 0; begin <= list.size();) {
         const std::size_t end = std::min(list.find(':', begin), list.size());
         const std::filesystem::path directory = absoluteOr(list.substr(begin, end - begin), {});
-        if (!directory.empty()) {
+        if (!directory.empty())
             directories.push_back(directory);
-        }
         begin = end + 1;
     }
     return directories;
@@ -147,9 +143,8 @@ std::filesystem::path userStateDirectory()
 std::filesystem::path libraryDirectory()
 {
     Dl_info info = {};
-    if (dladdr(reinterpret_cast<const void *>(&libraryDirectory), &info) == 0 || info.dli_fname == nullptr) {
+    if (dladdr(reinterpret_cast<const void *>(&libraryDirectory), &info) == 0 || info.dli_fname == nullptr)
         return {};
-    }
     std::error_code error; // the loader reports a library opened by a relative path relatively
     return std::filesystem::absolute(info.dli_fname, error).parent_path();
 }
@@ -159,15 +154,13 @@ std::string messageLocale()
     // Only asked, never set: setlocale writes state of the whole process, which is the application's alone.
     const char *current = std::setlocale(LC_MESSAGES, nullptr);
     std::string name = current != nullptr ? current : "C";
-    if (name != "C" && name != "POSIX") {
+    if (name != "C" && name != "POSIX")
         return name;
-    }
     // "C" may only mean that the program has not called setlocale yet; the environment says what it would get.
     for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         std::string value = environmentValue(variable);
-        if (!value.empty()) {
+        if (!value.empty())
             return value;
-        }
     }
     return {};
 }

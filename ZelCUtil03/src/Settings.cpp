@@ -42,9 +42,8 @@ std::string_view takeLine(std::string_view &rest)
 char *readLine(char *buffer, int size, void *stream)
 {
     IniSource &source = *static_cast<IniSource *>(stream);
-    if (source.rest.empty() || size < 2) {
+    if (source.rest.empty() || size < 2)
         return nullptr;
-    }
     source.line = trimmed(takeLine(source.rest));
     const std::size_t length = source.line.copy(buffer, static_cast<std::size_t>(size) - 1);
     source.isCut = length < source.line.size();
@@ -56,11 +55,9 @@ char *readLine(char *buffer, int size, void *stream)
 std::string_view valueOfLine(std::string_view line)
 {
     std::string_view value = line.substr(std::min(line.find_first_of("=:"), line.size() - 1) + 1);
-    for (std::size_t at = 1; at < value.size(); ++at) {
-        if (value[at] == ';' && (value[at - 1] == ' ' || value[at - 1] == '\t')) {
+    for (std::size_t at = 1; at < value.size(); ++at)
+        if (value[at] == ';' && (value[at - 1] == ' ' || value[at - 1] == '\t'))
             value = value.substr(0, at);
-        }
-    }
     return trimmed(value);
 }
 
@@ -68,9 +65,8 @@ std::string_view valueOfLine(std::string_view line)
 int takeValue(void *user, const char *section, const char *name, const char *value) noexcept
 {
     IniSource &source = *static_cast<IniSource *>(user);
-    if (*section == '\0' || *name == '\0' || value == nullptr) {
+    if (*section == '\0' || *name == '\0' || value == nullptr)
         return 0;
-    }
     try {
         source.values[valueName(section, name)] = source.isCut ? std::string(valueOfLine(source.line)) : value;
         return 1;
@@ -88,9 +84,8 @@ std::string unreadable(const std::string &fileName, const std::string &reason)
 
 Settings::Settings(const std::vector<std::filesystem::path> &files)
 {
-    for (const std::filesystem::path &file : files) {
+    for (const std::filesystem::path &file : files)
         add(file);
-    }
 }
 
 const std::string *Settings::find(std::string_view section, std::string_view key) const
@@ -109,9 +104,8 @@ std::map<std::string, std::string> Settings::section(std::string_view name) cons
 {
     const std::string beginning = valueName(name, {});
     std::map<std::string, std::string> values;
-    for (auto at = m_values.lower_bound(beginning); at != m_values.end() && startsWith(at->first, beginning); ++at) {
+    for (auto at = m_values.lower_bound(beginning); at != m_values.end() && startsWith(at->first, beginning); ++at)
         values.emplace(at->first.substr(beginning.size()), at->second);
-    }
     return values;
 }
 
@@ -119,9 +113,8 @@ void Settings::add(const std::filesystem::path &file)
 {
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(file, error);
-    if (status.type() == std::filesystem::file_type::not_found) {
+    if (status.type() == std::filesystem::file_type::not_found)
         return;
-    }
     if (!std::filesystem::is_regular_file(status)) { // opening a pipe would wait for its writer
         m_warnings.push_back(unreadable(file.u8string(), error ? error.message() : "it is not a file"));
         return;
@@ -130,9 +123,8 @@ void Settings::add(const std::filesystem::path &file)
     const std::ifstream stream(file, std::ios::binary);
     std::ostringstream text;
     text << stream.rdbuf();
-    if (!stream.is_open() || text.bad()) {
+    if (!stream.is_open() || text.bad())
         m_warnings.push_back(unreadable(file.u8string(), std::generic_category().message(errno)));
-    }
     parse(text.str(), file.u8string());
 }
 

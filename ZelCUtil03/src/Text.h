@@ -14,11 +14,9 @@ inline bool startsWith(std::string_view text, std::string_view beginning)
 inline std::string asciiLower(std::string_view text)
 {
     std::string lower(text);
-    for (char &character : lower) {
-        if (character >= 'A' && character <= 'Z') {
+    for (char &character : lower)
+        if (character >= 'A' && character <= 'Z')
             character = static_cast<char>(character - 'A' + 'a');
-        }
-    }
     return lower;
 }
 
@@ -27,9 +25,8 @@ inline std::string_view trimmed(std::string_view text)
 {
     constexpr std::string_view blanks = " \t\r\n\v\f";
     const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) {
+    if (first == std::string_view::npos)
         return {};
-    }
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 

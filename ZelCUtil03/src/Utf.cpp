@@ -24,15 +24,12 @@ bool isLowSurrogate(char32_t unit)
 Decoded decodeUtf16(std::u16string_view text)
 {
     const char32_t first = text[0];
-    if (isLowSurrogate(first)) {
+    if (isLowSurrogate(first))
         return {replacement, 1};
-    }
-    if (!isHighSurrogate(first)) {
+    if (!isHighSurrogate(first))
         return {first, 1};
-    }
-    if (text.size() < 2 || !isLowSurrogate(text[1])) {
+    if (text.size() < 2 || !isLowSurrogate(text[1]))
         return {replacement, 1};
-    }
     return {0x10000 + ((first - 0xD800) << 10) + (text[1] - 0xDC00), 2};
 }
 
@@ -73,37 +70,31 @@ struct Lead
 // The narrowed second bytes keep out overlong forms (E0, F0), surrogates (ED) and all beyond U+10FFFF (F4).
 Lead leadOf(unsigned char byte)
 {
-    if (byte < 0x80) {
+    if (byte < 0x80)
         return {1, byte, 0, 0};
-    }
-    if (byte < 0xC2 || byte > 0xF4) {
+    if (byte < 0xC2 || byte > 0xF4)
         return {0, 0, 0, 0};
-    }
-    if (byte < 0xE0) {
+    if (byte < 0xE0)
         return {2, byte & 0x1FU, 0x80, 0xBF};
-    }
     const unsigned char low = byte == 0xE0 ? 0xA0 : byte == 0xF0 ? 0x90 : 0x80;
     const unsigned char high = byte == 0xED ? 0x9F : byte == 0xF4 ? 0x8F : 0xBF;
-    if (byte < 0xF0) {
+    if (byte < 0xF0)
         return {3, byte & 0x0FU, low, high};
-    }
     return {4, byte & 0x07U, low, high};
 }
 
 Decoded decodeUtf8(std::string_view text)
 {
     const Lead lead = leadOf(static_cast<unsigned char>(text[0]));
-    if (lead.length == 0) {
+    if (lead.length == 0)
         return {replacement, 1};
-    }
     char32_t point = lead.bits;
     for (std::size_t at = 1; at < lead.length; ++at) {
         const auto byte = at < text.size() ? static_cast<unsigned char>(text[at]) : 0U;
         const unsigned low = at == 1 ? lead.secondLow : 0x80U;
         const unsigned high = at == 1 ? lead.secondHigh : 0xBFU;
-        if (byte < low || byte > high) {
+        if (byte < low || byte > high)
             return {replacement, at};
-        }
         point = (point << 6) | (byte & 0x3FU);
     }
     return {point, lead.length};

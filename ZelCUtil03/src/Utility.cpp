@@ -13,11 +13,9 @@ std::vector<std::filesystem::path> settingsFiles()
     std::vector<std::filesystem::path> directories = platform::systemSettingsDirectories();
     directories.insert(directories.begin(), platform::userSettingsDirectory());
     std::vector<std::filesystem::path> files;
-    for (const std::filesystem::path &directory : directories) {
-        if (!directory.empty()) {
+    for (const std::filesystem::path &directory : directories)
+        if (!directory.empty())
             files.push_back(directory / "zelcutil03.ini");
-        }
-    }
     return files;
 }
 
@@ -33,12 +31,10 @@ Utility &Utility::instance()
 
 Utility::Utility() : m_settings(settingsFiles()), m_plan(planLog(m_settings)), m_log(m_plan)
 {
-    if (!m_plan.warning.empty()) {
+    if (!m_plan.warning.empty())
         m_log.warn(m_plan.warning);
-    }
-    for (const std::string &warning : m_settings.warnings()) {
+    for (const std::string &warning : m_settings.warnings())
         m_log.warn(warning);
-    }
 }
 
 } // namespace zelcutil

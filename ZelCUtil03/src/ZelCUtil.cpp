@@ -45,9 +45,8 @@ std::string installedArtwork()
 std::string decideGraphicsDirectory(const Settings &settings)
 {
     const std::string fromEnvironment = platform::environmentValue("ZEL_GRAPHICS_DIR");
-    if (!fromEnvironment.empty()) {
+    if (!fromEnvironment.empty())
         return platform::expandHome(fromEnvironment);
-    }
     const std::string *configured = settings.find("Installation", "CommonGraphicsDir");
     return configured != nullptr ? platform::expandHome(*configured) : installedArtwork();
 }
@@ -57,9 +56,8 @@ using Paths = std::map<std::string, std::u16string>;
 Paths collectPaths(const Settings &settings)
 {
     Paths paths;
-    for (const auto &[key, value] : settings.section("Installation")) {
+    for (const auto &[key, value] : settings.section("Installation"))
         paths[key] = zelcutil::toUtf16(platform::expandHome(value));
-    }
     paths["commongraphicsdir"] = zelcutil::toUtf16(decideGraphicsDirectory(settings));
     return paths;
 }
@@ -94,9 +92,8 @@ const char16_t *GetLanguage() noexcept
 
 void RetrievePath(const char16_t *key, const char16_t **value, int /*reserved*/) noexcept
 {
-    if (value == nullptr) {
+    if (value == nullptr)
         return;
-    }
     const platform::ErrorCodeKeeper keeper;
     try {
         *value = path(key);

@@ -54,10 +54,9 @@ constexpr PaletteEntry paletteEntries[] = {
 bool hasHouseColours(const QPalette &palette, const QPalette &house)
 {
     for (const PaletteEntry &entry : paletteEntries) {
-        for (const auto group : {QPalette::Disabled, QPalette::Active, QPalette::Inactive}) {
+        for (const auto group : {QPalette::Disabled, QPalette::Active, QPalette::Inactive})
             if (palette.brush(group, entry.role) != house.brush(group, entry.role))
                 return false;
-        }
     }
     return true;
 }

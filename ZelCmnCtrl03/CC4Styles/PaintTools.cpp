@@ -121,10 +121,11 @@ QPainterPath roundRectPath(const QRect &rect, int radius)
     int y2 = 0;
     rect.getCoords(&x1, &y1, &x2, &y2);
     const int r = radius;
+    const int half = r / 2;
     QPainterPath path;
     path.moveTo(x2, y1 + r);
     path.arcTo(x2 - r, y1, r, r, 0, 90);
-    path.lineTo(x1 + r + r / 2, y1);
+    path.lineTo(x1 + r + half, y1);
     path.arcTo(x1, y1, r, r, 90, 90);
     path.lineTo(x1, y2 - r);
     path.arcTo(x1, y2 - r, r, r, 180, 90);

@@ -35,6 +35,23 @@ void addCorner(QPainterPath &path, qreal x, qreal y, qreal startAngle)
     path.arcTo(x, y, cornerBox, cornerBox, startAngle, 90);
 }
 
+QPainterPath roundOutline(const QRect &rect)
+{
+    const qreal right = rect.right();
+    const qreal bottom = rect.bottom();
+    QPainterPath path;
+    path.moveTo(right, rect.top() + cornerBox);
+    addCorner(path, right - cornerBox, rect.top(), 0);
+    path.lineTo(rect.left() + cornerBox, rect.top());
+    addCorner(path, rect.left(), rect.top(), 90);
+    path.lineTo(rect.left(), bottom - cornerBox);
+    addCorner(path, rect.left(), bottom - cornerBox, 180);
+    path.lineTo(rect.left() + cornerBox, bottom);
+    addCorner(path, right - cornerBox, bottom - cornerBox, 270);
+    path.closeSubpath();
+    return path;
+}
+
 } // namespace
 
 CMenuEx *CMenuEx::currentPopup = nullptr;
@@ -211,55 +228,28 @@ void CMenuEx::actionHovered()
 // The outline of the menu, for a mask.
 QPainterPath CMenuEx::getRoundPath()
 {
-    int x1 = 0;
-    int y1 = 0;
-    int x2 = 0;
-    int y2 = 0;
-    rect().getCoords(&x1, &y1, &x2, &y2);
-    QPainterPath path;
-    path.moveTo(x2, y1 + cornerBox);
-    addCorner(path, x2 - cornerBox, y1, 0);
-    path.lineTo(x1 + cornerBox, y1);
-    addCorner(path, x1, y1, 90);
-    path.lineTo(x1, y2 - cornerBox);
-    addCorner(path, x1, y2 - cornerBox, 180);
-    path.lineTo(x1 + cornerBox, y2);
-    addCorner(path, x2 - cornerBox, y2 - cornerBox, 270);
-    path.closeSubpath();
-    return path;
+    return roundOutline(rect());
 }
 
 // The outline while the menu unrolls: the edge that it aims at stands still, wherever the menu is.
 QPainterPath CMenuEx::getRoundRectPath()
 {
-    int x1 = 0;
-    int y1 = 0;
-    int x2 = 0;
-    int y2 = 0;
-    rect().getCoords(&x1, &y1, &x2, &y2);
-    QPainterPath path;
-    if (direction == Downward) {
-        const int top = endPoint.y() - pos().y();
-        path.moveTo(x2 - cornerBox, top);
-        path.lineTo(x1 + cornerBox, top);
-        addCorner(path, x1, top, 90);
-        path.lineTo(x1, y2 - cornerBox);
-        addCorner(path, x1, y2 - cornerBox, 180);
-        path.lineTo(x2, y2);
-        addCorner(path, x2 - cornerBox, y2 - cornerBox, 270);
-        path.lineTo(x2, top + cornerBox);
-        addCorner(path, x2 - cornerBox, top, 0);
-    } else {
-        const int bottom = y2 - pos().y() + endPoint.y();
-        path.moveTo(x2, y1 + cornerBox);
-        addCorner(path, x2 - cornerBox, y1, 0);
-        path.lineTo(x1 + cornerBox, y1);
-        addCorner(path, x1, y1, 90);
-        path.lineTo(x1, bottom - cornerBox);
-        addCorner(path, x1, bottom - cornerBox, 180);
-        path.lineTo(x2 - cornerBox, bottom);
-        addCorner(path, x2 - cornerBox, bottom - cornerBox, 270);
+    QRect outline = rect();
+    if (direction != Downward) {
+        outline.setBottom(outline.bottom() - pos().y() + endPoint.y());
+        return roundOutline(outline);
     }
+    outline.setTop(endPoint.y() - pos().y());
+    QPainterPath path;
+    path.moveTo(outline.right() - cornerBox, outline.top());
+    path.lineTo(outline.left() + cornerBox, outline.top());
+    addCorner(path, outline.left(), outline.top(), 90);
+    path.lineTo(outline.left(), outline.bottom() - cornerBox);
+    addCorner(path, outline.left(), outline.bottom() - cornerBox, 180);
+    path.lineTo(outline.right(), outline.bottom());
+    addCorner(path, outline.right() - cornerBox, outline.bottom() - cornerBox, 270);
+    path.lineTo(outline.right(), outline.top() + cornerBox);
+    addCorner(path, outline.right() - cornerBox, outline.top(), 0);
     path.closeSubpath();
     return path;
 }

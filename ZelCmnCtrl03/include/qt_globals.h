@@ -70,10 +70,9 @@ constexpr FixedText<N + 1> sourceName(const char (&path)[N])
             begin = i + rootLength;
     }
     std::size_t end = N - 1;
-    for (std::size_t i = begin; i < N - 1; ++i) {
+    for (std::size_t i = begin; i < N - 1; ++i)
         if (path[i] == '.')
             end = i;
-    }
     FixedText<N + 1> name;
     name.text[0] = u'.';
     for (std::size_t i = begin; i < end; ++i)

@@ -78,10 +78,9 @@ QString errorOf(const QCommandLineParser &parser, const GalleryOptions &options)
     const double scale = options.scale.toDouble(&isNumber);
     if (!options.scale.isEmpty() && (!isNumber || scale < 0.5 || scale > 8.0))
         return QStringLiteral("The scale is a number from 0.5 to 8, not '%1'.").arg(options.scale);
-    for (const QString &name : {shotsName, picturesName}) {
+    for (const QString &name : {shotsName, picturesName})
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return QStringLiteral("The option --%1 needs a directory.").arg(name);
-    }
     return QString();
 }
 

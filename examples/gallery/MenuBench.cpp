@@ -60,7 +60,8 @@ void MenuBench::addHouseMenu(const MakerSettings &settings)
     auto *button = new CButtonEx;
     button->setText(QStringLiteral("Open menu"));
     static_cast<QGridLayout *>(layout())->addWidget(button, 0, 0, Qt::AlignLeft);
-    connect(button, &CButtonEx::clicked2, this, [this](CButtonEx *sender) { m_houseMenu->popup(below(sender)); });
+    connect(
+        button, &CButtonEx::clicked2, this, [this](CButtonEx *sender) { m_houseMenu->popup(below(sender)); });
     connect(m_houseMenu, &QMenu::triggered, this, [this](QAction *action) { showChoice(m_houseMenu, action); });
     if (settings.foreignStyle == nullptr)
         return;
@@ -73,7 +74,8 @@ void MenuBench::addPlainMenu(const MakerSettings &settings)
     fillMenu(m_plainMenu, settings.texts);
     auto *button = new QPushButton(QStringLiteral("Open plain menu"));
     static_cast<QGridLayout *>(layout())->addWidget(button, 0, 1, Qt::AlignLeft);
-    connect(button, &QPushButton::clicked, this, [this, button] { m_plainMenu->popup(below(button)); });
+    connect(
+        button, &QPushButton::clicked, this, [this, button] { m_plainMenu->popup(below(button)); });
     connect(m_plainMenu, &QMenu::triggered, this, [this](QAction *action) { showChoice(m_plainMenu, action); });
     if (settings.foreignStyle == nullptr)
         return;

@@ -148,7 +148,8 @@ QGridLayout *Page::makeTable(const SpecimenGroup &group, const MakerSettings &se
 
 bool Page::isSettled() const
 {
-    return std::all_of(m_cells.begin(), m_cells.end(), [](const SpecimenCell *cell) { return cell->isSettled(); });
+    return std::all_of(
+        m_cells.begin(), m_cells.end(), [](const SpecimenCell *cell) { return cell->isSettled(); });
 }
 
 } // namespace gallery

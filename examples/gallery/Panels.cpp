@@ -6,7 +6,7 @@ namespace gallery {
 
 Picture::Picture(const QPixmap &pixmap, QWidget *parent) : QWidget(parent), m_pixmap(pixmap)
 {
-    resize(sizeHint());
+    resize(Picture::sizeHint());
 }
 
 QSize Picture::sizeHint() const

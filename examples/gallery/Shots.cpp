@@ -52,12 +52,11 @@ std::unique_ptr<QWidget> makeGround(Ground ground)
 QString fileNamePart(const QString &caption)
 {
     QString part;
-    for (const QChar character : caption.toLower()) {
+    for (const QChar character : caption.toLower())
         if (character.isLetterOrNumber())
             part += character;
         else if (!part.isEmpty() && !part.endsWith(QLatin1Char('-')))
             part += QLatin1Char('-');
-    }
     return part;
 }
 
@@ -117,10 +116,9 @@ int savePages(const std::vector<PageDescription> &pages, const MakerSettings &se
 {
     if (!makeDirectory(directory))
         return 1;
-    for (const PageDescription &page : pages) {
+    for (const PageDescription &page : pages)
         if (!save(picture(page, settings), directory, page.name))
             return 1;
-    }
     return 0;
 }
 
@@ -130,10 +128,9 @@ int saveSpecimens(const std::vector<PageDescription> &pages, const MakerSettings
         return 1;
     for (const PageDescription &page : pages) {
         for (const SpecimenGroup &group : page.groups) {
-            for (const Specimen &specimen : group.specimens) {
+            for (const Specimen &specimen : group.specimens)
                 if (!save(picture(specimen, settings), directory, fileName(page, group, specimen)))
                     return 1;
-            }
         }
     }
     return 0;

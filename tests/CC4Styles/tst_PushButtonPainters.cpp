@@ -167,16 +167,16 @@ void tst_PushButtonPainters::init()
 
 QImage tst_PushButtonPainters::face(CButtonEx &button, const QStyleOptionButton &option) const
 {
-    return Picture::of(option.rect.size(), [&](QPainter *painter) {
-        m_style->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, painter, &button);
-    });
+    return Picture::of(
+        option.rect.size(),
+        [&](QPainter *painter) { m_style->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, painter, &button); });
 }
 
 QImage tst_PushButtonPainters::control(QStyle::ControlElement element, const QWidget &button,
                                        const QStyleOptionButton &option) const
 {
-    return Picture::of(option.rect.size(),
-                       [&](QPainter *painter) { m_style->drawControl(element, &option, painter, &button); });
+    return Picture::of(
+        option.rect.size(), [&](QPainter *painter) { m_style->drawControl(element, &option, painter, &button); });
 }
 
 void tst_PushButtonPainters::restingFace_data()
@@ -298,10 +298,9 @@ void tst_PushButtonPainters::imagePlace()
     button.setPixmap(imageOf(imageWidth, 5));
     const QImage image = face(button, optionFor(button, text, state));
     QList<int> begins;
-    for (int x = 1; x < image.width(); ++x) {
+    for (int x = 1; x < image.width(); ++x)
         if (image.pixelColor(x, 9) == imageColor && image.pixelColor(x - 1, 9) != imageColor)
             begins.append(x);
-    }
     QCOMPARE(begins, columns);
     QCOMPARE(image.pixelColor(columns.first(), 7), imageColor); // (20 - 5) / 2
     QVERIFY(image.pixelColor(columns.first(), 6) != imageColor);

@@ -76,6 +76,7 @@ void tst_StyleFactory::unknownKindsGiveNothing()
 void tst_StyleFactory::buttonsShareOneStyle()
 {
     std::vector<std::unique_ptr<CButtonEx>> buttons;
+    buttons.reserve(100);
     for (int i = 0; i < 100; ++i)
         buttons.push_back(std::make_unique<CButtonEx>());
     QStyle *style = QApplication::style();

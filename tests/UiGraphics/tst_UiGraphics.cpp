@@ -152,10 +152,9 @@ void tst_UiGraphics::startsOnce()
     const QString log = deployment.log();
     QCOMPARE(log.count(QLatin1String(": CUIGraphics::initializeUIG\n")), 2); // its entry and its exit
     QStringList progress;
-    for (const QString &line : log.split(QLatin1Char('\n'))) {
+    for (const QString &line : log.split(QLatin1Char('\n')))
         if (line.contains(QLatin1String(":: After")))
             progress.append(line.section(QLatin1Char(' '), -1));
-    }
     QCOMPARE(progress, words("GetCULValues initializeColorMap initializeFontMap initializeFont"));
     QVERIFY(log.contains(
         QRegularExpression(QStringLiteral(R"( 1 uigraphics \.\\UiGraphics\(\d+\): CUIGraphics::initializeUIG\n)"))));

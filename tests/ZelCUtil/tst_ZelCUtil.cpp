@@ -40,9 +40,8 @@ class Home
 public:
     explicit Home(const Variables &variables = {}, const Files &files = {})
     {
-        for (auto file = files.begin(); file != files.end(); ++file) {
+        for (auto file = files.begin(); file != files.end(); ++file)
             write(file.key(), QByteArray(file.value()).replace('%', m_folder.path().toUtf8()));
-        }
         const Variables own = {{"HOME", "%/home"},
                                {"XDG_CONFIG_HOME", "%/config"},
                                {"XDG_CONFIG_DIRS", "%/etc:%/etc2"},
@@ -74,9 +73,8 @@ public:
     {
         QStringList found;
         QDirIterator files(m_folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
+        while (files.hasNext())
             found += QDir(m_folder.path()).relativeFilePath(files.next());
-        }
         found.sort();
         return found;
     }
@@ -96,18 +94,16 @@ public:
         }
         answer.errors = QString::fromUtf8(probe.readAllStandardError());
         const QString output = QString::fromUtf8(probe.readAllStandardOutput());
-        for (const QString &line : output.split('\n', Qt::SkipEmptyParts)) {
+        for (const QString &line : output.split('\n', Qt::SkipEmptyParts))
             answer.values[line.section('=', 0, 0)] = line.section('=', 1);
-        }
         return answer;
     }
 
 private:
     void takeOver(const Variables &variables)
     {
-        for (auto variable = variables.begin(); variable != variables.end(); ++variable) {
+        for (auto variable = variables.begin(); variable != variables.end(); ++variable)
             m_environment.insert(variable.key(), expanded(variable.value()));
-        }
     }
 
     QTemporaryDir m_folder;
@@ -119,9 +115,8 @@ QString levelsIn(const QStringList &lines)
 {
     QString levels;
     static const QRegularExpression record(QStringLiteral(R"(probe \.\\Probe\(7\): level (\d)$)"));
-    for (const QString &line : lines) {
+    for (const QString &line : lines)
         levels += record.match(line).captured(1);
-    }
     return levels;
 }
 
@@ -134,9 +129,8 @@ void columns(std::initializer_list<const char *> texts)
 {
     QTest::addColumn<Variables>("variables");
     QTest::addColumn<Files>("files");
-    for (const char *text : texts) {
+    for (const char *text : texts)
         QTest::addColumn<QString>(text);
-    }
 }
 
 } // namespace
@@ -210,9 +204,8 @@ void TestZelCUtil::localeMapping_data()
                                    {"", "en"},
                                    {".UTF-8", "en"},
                                    {"/opt/locale/de_DE", "en"}};
-    for (const auto &row : rows) {
+    for (const auto &row : rows)
         QTest::newRow(*row[0] != '\0' ? row[0] : "(empty)") << QString(row[1]);
-    }
 }
 
 void TestZelCUtil::localeMapping()
@@ -431,9 +424,8 @@ void TestZelCUtil::logDestinations()
     const Home home(variables, files);
     const Answer answer = home.run({"log", "wanted"});
     QStringList expectedFiles = files.keys();
-    if (!file.isEmpty()) {
+    if (!file.isEmpty())
         expectedFiles += file;
-    }
     expectedFiles.sort();
     QCOMPARE(home.allFiles(), expectedFiles);
     QCOMPARE(levelsIn(home.lines(file)), inFile);
@@ -464,9 +456,8 @@ void TestZelCUtil::rotation()
     const QDir folder(QFileInfo(home.path(defaultLog)).path());
     const QStringList expected = {"zelcutil03.1.log", "zelcutil03.2.log", "zelcutil03.log"};
     QCOMPARE(folder.entryList(QDir::Files, QDir::Name), expected);
-    for (const QFileInfo &file : folder.entryInfoList(QDir::Files)) {
-        QVERIFY2(file.size() <= 5 * 1024 * 1024, qPrintable(file.fileName()));
-    }
+    for (const QFileInfo &file : folder.entryInfoList(QDir::Files))
+        QVERIFY2(file.size() <= qint64(5) * 1024 * 1024, qPrintable(file.fileName()));
 }
 
 void TestZelCUtil::unwritableLog_data()
@@ -628,7 +619,8 @@ void TestZelCUtil::operationsAreFoundByName()
     const auto getLanguage = reinterpret_cast<const char16_t *(*)()>(library.resolve("GetLanguage"));
     const auto retrievePath =
         reinterpret_cast<void (*)(const char16_t *, const char16_t **, int)>(library.resolve("RetrievePath"));
-    QVERIFY(getLanguage != nullptr && retrievePath != nullptr);
+    if (getLanguage == nullptr || retrievePath == nullptr)
+        QFAIL("the library lacks an entry point");
     const char16_t *language = getLanguage();
     const char16_t *path = nullptr;
     retrievePath(u"NoSuchSetting", &path, 0);

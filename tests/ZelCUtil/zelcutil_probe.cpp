@@ -27,9 +27,8 @@ struct EarlyAndLate
     ~EarlyAndLate() { speak(u"during exit"); }
     static void speak(const char16_t *message)
     {
-        if (std::getenv("PROBE_STATICS") != nullptr) {
+        if (std::getenv("PROBE_STATICS") != nullptr)
             logAt(5, message);
-        }
     }
 } earlyAndLate;
 
@@ -37,13 +36,11 @@ struct EarlyAndLate
 void print(const std::string &name, const char16_t *value)
 {
     std::printf("%s=", name.c_str());
-    for (; value != nullptr && *value != 0; ++value) {
-        if (*value >= 0x20 && *value < 0x7F) {
+    for (; value != nullptr && *value != 0; ++value)
+        if (*value >= 0x20 && *value < 0x7F)
             std::putchar(static_cast<char>(*value));
-        } else {
+        else
             std::printf("\\u%04X", static_cast<unsigned>(*value));
-        }
-    }
     std::puts(value != nullptr ? "" : "(null)");
 }
 
@@ -57,9 +54,8 @@ void printPath(const std::string &name, const std::string &key)
 void printWanted()
 {
     std::printf("wanted=");
-    for (int level = 1; level <= 6; ++level) {
+    for (int level = 1; level <= 6; ++level)
         std::printf("%s", CLogger::isLevelWanted(level) ? std::to_string(level).c_str() : "");
-    }
     std::puts("");
 }
 
@@ -85,22 +81,19 @@ void logFromThreads()
     std::vector<std::thread> threads;
     for (char16_t name = u'a'; name < u'f'; ++name) {
         threads.emplace_back([name] {
-            for (int count = 0; count < 200; ++count) {
+            for (int count = 0; count < 200; ++count)
                 logAt(5, std::u16string(100, name));
-            }
         });
     }
-    for (std::thread &thread : threads) {
+    for (std::thread &thread : threads)
         thread.join();
-    }
 }
 
 void logMegabytes(int count)
 {
     const std::u16string message(64 * 1024 - 100, u'x');
-    for (int record = 0; record < count * 16; ++record) {
+    for (int record = 0; record < count * 16; ++record)
         logAt(6, message);
-    }
 }
 
 void printErrorNumber()
@@ -125,35 +118,34 @@ void deafenStandardError()
 
 void take(const std::string &step, const std::string &operand)
 {
-    if (step == "language") {
+    if (step == "language")
         print(step, GetLanguage());
-    } else if (step == "graphicsdir") {
+    else if (step == "graphicsdir")
         printPath(step, "CommonGraphicsDir");
-    } else if (step == "path") {
+    else if (step == "path")
         printPath(operand, operand);
-    } else if (step == "locale") {
+    else if (step == "locale")
         std::setlocale(LC_ALL, operand.c_str());
-    } else if (step == "wanted") {
+    else if (step == "wanted")
         printWanted();
-    } else if (step == "log") {
+    else if (step == "log")
         logEachLevel();
-    } else if (step == "controls") {
+    else if (step == "controls")
         logAt(4, u"one\ntwo\r\tthree\u0085four\u2028five \u3042 \xD800 end");
-    } else if (step == "nulls") {
+    else if (step == "nulls")
         passNulls();
-    } else if (step == "threads") {
+    else if (step == "threads")
         logFromThreads();
-    } else if (step == "megabytes") {
+    else if (step == "megabytes")
         logMegabytes(std::stoi(operand));
-    } else if (step == "errno") {
+    else if (step == "errno")
         printErrorNumber();
-    } else if (step == "deafen") {
+    else if (step == "deafen")
         deafenStandardError();
-    } else if (step == "crash") {
+    else if (step == "crash")
         std::_Exit(0); // nothing is flushed, as in a crash
-    } else {
+    else
         std::printf("unknown=%s\n", step.c_str());
-    }
 }
 
 } // namespace

@@ -47,10 +47,9 @@ void HouseTest::cleanup()
 bool Picture::paintsOutside(const QImage &image, const QRect &inside)
 {
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (!inside.contains(x, y) && qAlpha(image.pixel(x, y)) != 0)
                 return true;
-        }
     }
     return false;
 }
