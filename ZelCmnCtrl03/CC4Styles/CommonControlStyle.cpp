@@ -117,9 +117,18 @@ void CCommonControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOp
                                         const QWidget *widget) const
 {
     switch (element) {
+    case PE_Frame: return drawFrame(option, painter, widget);
     case PE_FrameFocusRect: return; // this look has no focus rectangle
+    case PE_FrameMenu: return drawFrameMenu(option, painter, widget);
+    case PE_FrameTabWidget: return drawFrameTabWidget(option, painter, widget);
+    case PE_FrameTabBarBase: return drawFrameTabBarBase(option, painter, widget);
     case PE_PanelButtonCommand: return drawPanelButtonCommand(option, painter, widget);
     case PE_IndicatorArrowDown: return drawIndicatorArrowDown(option, painter);
+    case PE_IndicatorBranch: return drawIndicatorBranch(option, painter);
+    case PE_IndicatorCheckBox: return drawIndicatorCheckBox(option, painter);
+    case PE_IndicatorHeaderArrow: return drawIndicatorHeaderArrow(option, painter, widget);
+    case PE_IndicatorRadioButton: return drawIndicatorRadioButton(option, painter);
+    case PE_PanelTipLabel: return drawPanelTipLabel(painter, widget);
     default: return QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 }
@@ -130,7 +139,27 @@ void CCommonControlStyle::drawControl(ControlElement element, const QStyleOption
     switch (element) {
     case CE_PushButtonBevel: return drawPushButtonBevel(option, painter, widget);
     case CE_PushButtonLabel: return drawPushButtonLabel(option, painter, widget);
+    case CE_TabBarTab: return drawTabBarTab(option, painter, widget);
+    case CE_TabBarTabShape: return drawTabBarTabShape(option, painter, widget);
+    case CE_TabBarTabLabel: return drawTabBarTabLabel(option, painter, widget);
+    case CE_MenuItem: return drawMenuItem(option, painter, widget);
+    case CE_MenuEmptyArea: return; // the menu's gradient shows
+    case CE_Header: return drawHeader(option, painter, widget);
+    case CE_HeaderSection: return drawHeaderSection(option, painter);
+    case CE_Splitter: return drawSplitter(option, painter);
+    case CE_ComboBoxLabel: return drawComboBoxLabel(option, painter, widget);
     default: return QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+void CCommonControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                             QPainter *painter, const QWidget *widget) const
+{
+    switch (control) {
+    case CC_ComboBox: return drawComboBox(option, painter);
+    case CC_ScrollBar: return drawScrollBar(option, painter, widget);
+    case CC_SpinBox: return drawSpinBox(option, painter, widget);
+    default: return QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 }
 

@@ -9,6 +9,8 @@
 
 class CButtonEx;
 class QStyleOptionButton;
+class QStyleOptionMenuItem;
+class QStyleOptionTab;
 
 /**
  * The house style: one look for standard Qt widgets and for the controls of this library.
@@ -35,9 +37,6 @@ public:
 
     // What Qt asks of a style.
 
-    using QProxyStyle::polish;
-    using QProxyStyle::unpolish;
-
     /** Makes standardPalette() the application's, unless it has set one of its own. */
     void polish(QApplication *application) override;
     /** Leaves the palette as it is. */
@@ -45,11 +44,31 @@ public:
     /** Takes back the palette that polish() gave to the application. */
     void unpolish(QApplication *application) override;
 
+    /** Prepares a widget for the look: hover, text colours by button look, the menu's gradient, the spin box's font. */
+    void polish(QWidget *widget) override;
+    /** Ends the hover of push buttons and combo boxes; palettes and fonts stay. */
+    void unpolish(QWidget *widget) override;
+
     /** The house palette: sixteen roles in three groups from the registry's UIGCLR_PALETTE_ colours. */
     QPalette standardPalette() const override;
 
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option = nullptr, const QWidget *widget = nullptr,
+                  QStyleHintReturn *returnData = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl subControl,
+                         const QWidget *widget = nullptr) const override;
+
+    /** Shapes the label of the tool tips whenever Qt shows or sizes it. */
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+    /** An alignment as it is seen: left and right exchanged for Qt::RightToLeft, unless it is absolute. */
+    Qt::Alignment visualAlignment(Qt::LayoutDirection direction, Qt::Alignment alignment);
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget = nullptr) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget = nullptr) const override;
 
@@ -70,6 +89,13 @@ public:
     void drawTransparentPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     /** The button's image over a glow as strong as CButtonEx::getGlowAlpha() says. */
     void drawGlowingPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+
+    // Frames.
+
+    /** The palette's background with a cosmetic line around. Turns antialiasing on, and leaves it on. */
+    void drawFrame(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    /** Draws nothing; kept for callers of older versions. */
+    void drawToolbarFrame(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
 
     // Tools of the painters.
 
@@ -107,6 +133,35 @@ private:
     void drawPanelButtonCommand(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const;
 
+    void drawFrameMenu(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawFrameTabWidget(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawFrameTabBarBase(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawIndicatorCheckBox(const QStyleOption *option, QPainter *painter) const;
+    void drawIndicatorRadioButton(const QStyleOption *option, QPainter *painter) const;
+    void drawIndicatorHeaderArrow(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawIndicatorBranch(const QStyleOption *option, QPainter *painter) const;
+    void drawPanelTipLabel(QPainter *painter, const QWidget *widget) const;
+
+    void drawTabBarTab(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawTabBarTabShape(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawTabBarTabLabel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawVerticalTabText(const QStyleOptionTab *option, const QRect &rect, int flags, QPainter *painter,
+                             QPalette::ColorRole role) const;
+    void drawMenuItem(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawSubMenuArrow(const QStyleOptionMenuItem *option, QPainter *painter, const QWidget *widget) const;
+    void drawHeader(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawHeaderSection(const QStyleOption *option, QPainter *painter) const;
+    void drawSplitter(const QStyleOption *option, QPainter *painter) const;
+    void drawComboBoxLabel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+
+    void drawComboBox(const QStyleOptionComplex *option, QPainter *painter) const;
+    void drawScrollBar(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+    void drawSpinBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+
+    int toolTipOpacity(const QWidget *widget) const;
+    QRect spinBoxRect(const QStyleOptionComplex *option, SubControl subControl) const;
+    QRect comboBoxRect(const QStyleOptionComplex *option, SubControl subControl, const QWidget *widget) const;
+
     void drawPushButtonBevel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawPushButtonFace(const QStyleOptionButton *option, const QRect &face, QPainter *painter,
                             const QWidget *widget) const;
@@ -117,4 +172,5 @@ private:
 
     std::unique_ptr<QStyle> m_pNativeStyle; // draws the face of a push button that is no CButtonEx
     bool m_bPaletteGiven = false;           // to the application, by polish()
+    bool m_bShapingToolTip = false;         // its own resizing must not shape it again
 };

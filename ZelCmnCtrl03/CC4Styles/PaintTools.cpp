@@ -87,6 +87,18 @@ void CachedPicture::store() const
     QPixmapCache::insert(m_key, m_pixmap);
 }
 
+void fillLine(QPainter *painter, const QPoint &from, const QPoint &to, const QColor &color)
+{
+    const QPoint topLeft(qMin(from.x(), to.x()), qMin(from.y(), to.y()));
+    const QPoint bottomRight(qMax(from.x(), to.x()), qMax(from.y(), to.y()));
+    painter->fillRect(QRect(topLeft, bottomRight), color);
+}
+
+void fillPoint(QPainter *painter, const QPoint &point, const QColor &color)
+{
+    painter->fillRect(QRect(point, QSize(1, 1)), color);
+}
+
 void drawVerticalGradient(QPainter *painter, const QRect &rect, const QColor &top, const QColor &bottom)
 {
     const QString key = QString::number(rect.width()) + QLatin1Char('x') + QString::number(rect.height()) +

@@ -34,6 +34,20 @@ private:
     bool m_found;
 };
 
+/** The picture of a key and a size that is not empty, found or drawn. */
+template <typename Draw>
+QPixmap cachedPicture(const QPainter *painter, const QSize &size, const QString &key, Draw &&draw)
+{
+    CachedPicture picture(key, size, painter);
+    if (!picture.isFound()) {
+        QPainter picturePainter(&picture.pixmap());
+        draw(&picturePainter, QRect(QPoint(0, 0), size));
+        picturePainter.end();
+        picture.store();
+    }
+    return picture.pixmap();
+}
+
 /**
  * Puts the picture of the key at `topLeft`; on a miss `draw(painter, rect)` draws it once, rect being (0, 0) and
  * `size`.
@@ -43,17 +57,37 @@ private:
 template <typename Draw>
 void drawCachedPicture(QPainter *painter, const QPoint &topLeft, const QSize &size, const QString &key, Draw &&draw)
 {
+    if (!size.isEmpty())
+        painter->drawPixmap(topLeft, cachedPicture(painter, size, key, draw));
+}
+
+/** As above, for a picture that is drawn anew each time unless somebody else has stored one under the key. */
+template <typename Draw>
+void drawFoundPicture(QPainter *painter, const QPoint &topLeft, const QSize &size, const QString &key, Draw &&draw)
+{
     if (size.isEmpty())
         return;
     CachedPicture picture(key, size, painter);
     if (!picture.isFound()) {
         QPainter picturePainter(&picture.pixmap());
         draw(&picturePainter, QRect(QPoint(0, 0), size));
-        picturePainter.end();
-        picture.store();
     }
     painter->drawPixmap(topLeft, picture.pixmap());
 }
+
+/** As drawCachedPicture, with the picture fitted into `target`. */
+template <typename Draw>
+void drawFittedPicture(QPainter *painter, const QRect &target, const QSize &size, const QString &key, Draw &&draw)
+{
+    if (size.isEmpty() || target.isEmpty())
+        return;
+    painter->drawPixmap(target, cachedPicture(painter, size, key, draw));
+}
+
+/** A straight line of whole pixels, both ends included. Unlike a pen's it stays crisp whatever the painter is set to.
+ */
+void fillLine(QPainter *painter, const QPoint &from, const QPoint &to, const QColor &color);
+void fillPoint(QPainter *painter, const QPoint &point, const QColor &color);
 
 /** A vertical gradient over `rect`, rendered once per size and pair of colours. */
 void drawVerticalGradient(QPainter *painter, const QRect &rect, const QColor &top, const QColor &bottom);

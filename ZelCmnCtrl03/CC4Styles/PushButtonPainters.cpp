@@ -2,6 +2,7 @@
 #include "CC4Styles/CommonControlStyle.h"
 
 #include "ButtonEx/ButtonEx.h"
+#include "CC4Styles/ButtonText.h"
 #include "CC4Styles/PaintTools.h"
 #include "UiGraphics.h"
 #include "include/qt_compat.h"
@@ -228,14 +229,10 @@ void setWhiteLabel(QPalette &palette, const QString &disabledKey)
 
 void setLabelColours(QPalette &palette, const CButtonEx *button)
 {
-    switch (button->buttonStyle()) {
-    case CButtonEx::BSEX_Normal: return setBlackLabel(palette);
-    case CButtonEx::BSEX_Transparent: return setButtonText(palette, button->textColor(), button->textColor());
-    case CButtonEx::BSEX_Glowing: return setWhiteLabel(palette, QStringLiteral("UIGCLR_WHITE"));
-    case CButtonEx::BSEX_Active:
-    case CButtonEx::BSEX_Tray: return setWhiteLabel(palette, QStringLiteral("UIGCLR_PALETTE_DISABLED_BUTTONTEXT"));
-    case CButtonEx::BSEX_Tertiary: return; // keeps the palette's own
-    }
+    if (button->buttonStyle() == CButtonEx::BSEX_Glowing)
+        setWhiteLabel(palette, QStringLiteral("UIGCLR_WHITE")); // over the glow, whatever its text colour
+    else
+        ButtonText::setColours(palette, button);
 }
 
 int textOffsetBesideImage(CButtonEx::CButtonStyles look, const QRect &rect)
@@ -245,6 +242,18 @@ int textOffsetBesideImage(CButtonEx::CButtonStyles look, const QRect &rect)
 }
 
 } // namespace
+
+void ButtonText::setColours(QPalette &palette, const CButtonEx *button)
+{
+    switch (button->buttonStyle()) {
+    case CButtonEx::BSEX_Normal: return setBlackLabel(palette);
+    case CButtonEx::BSEX_Transparent:
+    case CButtonEx::BSEX_Glowing: return setButtonText(palette, button->textColor(), button->textColor());
+    case CButtonEx::BSEX_Active:
+    case CButtonEx::BSEX_Tray: return setWhiteLabel(palette, QStringLiteral("UIGCLR_PALETTE_DISABLED_BUTTONTEXT"));
+    case CButtonEx::BSEX_Tertiary: return; // keeps the palette's own
+    }
+}
 
 void CCommonControlStyle::drawNormalPushButton(const QStyleOption *option, QPainter *painter,
                                                const QWidget *widget) const

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QPoint>
+#include <QStyleOptionMenuItem>
 #include <QtGlobal>
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -40,6 +41,16 @@ inline QSize deviceIndependentSize(const QPixmap &pixmap)
 {
     // A null pixmap may have a ratio of 0.
     return pixmap.isNull() ? QSize(0, 0) : pixmap.size() / pixmap.devicePixelRatioF();
+}
+
+/** The room that a menu keeps for the shortcuts of its items. */
+inline int reservedShortcutWidth(const QStyleOptionMenuItem *option)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return option->reservedShortcutWidth;
+#else
+    return option->tabWidth;
+#endif
 }
 
 /** Where on the screen a mouse event happened. */

@@ -1,0 +1,11 @@
+#pragma once
+
+class CButtonEx;
+class QPalette;
+
+namespace ButtonText {
+
+/** Sets the ButtonText brushes of the three colour groups by the button's look. */
+void setColours(QPalette &palette, const CButtonEx *button);
+
+} // namespace ButtonText

@@ -1,0 +1,63 @@
+// The combo box and its label.
+#include "CC4Styles/CommonControlStyle.h"
+
+#include "CC4Styles/PaintTools.h"
+#include "UiGraphics.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOptionComboBox>
+
+namespace {
+constexpr int iconMargin = 4;
+constexpr int boxHeight = 21; // whatever the box's own height
+constexpr QPoint arrowFromTopRight(-18, 2);
+} // namespace
+
+void CCommonControlStyle::drawComboBox(const QStyleOptionComplex *option, QPainter *painter) const
+{
+    if (qstyleoption_cast<const QStyleOptionComboBox *>(option) == nullptr)
+        return;
+    const QRect rect = option->rect;
+    const QBrush face = painter->brush();
+    const QSize size(rect.width(), boxHeight);
+    const auto draw = [&face](QPainter *picture, const QRect &area) {
+        const QColor border = UIGGetColor(QStringLiteral("UIGCLR_COMPLEX_CACHE_PAINTER"));
+        picture->fillRect(area, Qt::white);
+        picture->fillRect(area, face);
+        PaintTools::fillLine(picture, area.topLeft(), area.topRight(), border);
+        PaintTools::fillLine(picture, area.bottomLeft(), area.bottomRight(), border);
+        PaintTools::fillLine(picture, area.topLeft(), area.bottomLeft(), border);
+        PaintTools::fillLine(picture, area.topRight(), area.bottomRight(), border);
+        picture->drawPixmap(QPoint(area.width(), 0) + arrowFromTopRight,
+                            UIGGetPixmap(QStringLiteral("dropdown-menu-arrow.png"), PaintTools::deviceRatio(picture)));
+    };
+    const QString key = PaintTools::stateKey(QLatin1String("combobox"), option, rect.size());
+    PaintTools::drawCachedPicture(painter, rect.topLeft(), size, key, draw);
+}
+
+void CCommonControlStyle::drawComboBoxLabel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const
+{
+    const auto *comboBox = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (comboBox == nullptr)
+        return;
+    const bool enabled = option->state.testFlag(State_Enabled);
+    QRect field = proxy()->subControlRect(CC_ComboBox, comboBox, SC_ComboBoxEditField, widget);
+    painter->save();
+    painter->setClipRect(field, Qt::ReplaceClip);
+    if (!comboBox->currentIcon.isNull()) {
+        const QPixmap icon =
+            comboBox->currentIcon.pixmap(comboBox->iconSize, enabled ? QIcon::Normal : QIcon::Disabled, QIcon::Off);
+        const int width = comboBox->iconSize.width() + iconMargin;
+        const QRect place = alignedRect(QApplication::layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
+                                        QSize(width, field.height()), field);
+        if (comboBox->editable)
+            painter->fillRect(place, option->palette.brush(QPalette::Base));
+        proxy()->drawItemPixmap(painter, place, Qt::AlignCenter, icon);
+        field.translate(option->direction == Qt::RightToLeft ? -width : width, 0);
+    }
+    if (!comboBox->currentText.isEmpty() && !comboBox->editable)
+        proxy()->drawItemText(painter, field, Qt::AlignLeft | Qt::AlignVCenter, option->palette, enabled,
+                              comboBox->currentText);
+    painter->restore();
+}
