@@ -118,7 +118,9 @@ void CCommonControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOp
 {
     switch (element) {
     case PE_FrameFocusRect: return; // this look has no focus rectangle
+    case PE_FrameLineEdit: return drawFrameLineEdit(option, painter, widget);
     case PE_PanelButtonCommand: return drawPanelButtonCommand(option, painter, widget);
+    case PE_PanelLineEdit: return drawPanelLineEdit(option, painter, widget);
     case PE_IndicatorArrowDown: return drawIndicatorArrowDown(option, painter);
     default: return QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
