@@ -3,6 +3,7 @@
 #include "helpers/HouseTest.h"
 
 #include "CC4Styles/CommonControlStyle.h"
+#include "CC4Styles/PixelTable.h"
 #include "TextBoxEx/TextBoxEx.h"
 
 #include <QApplication>
@@ -179,6 +180,7 @@ private Q_SLOTS:
     void wrongOptionOrWidgetPaintsNothing();
     void pixelsStayWhole();
     void smallAndMovedFramesStayInside();
+    void crossedAndLongLines();
 
 private:
     QImage panel(const QWidget *widget, const QSize &size) const;
@@ -358,6 +360,21 @@ void tst_TextBoxPainters::smallAndMovedFramesStayInside()
             QCOMPARE(Picture::paintsOutside(image, QRect()), !option.rect.isEmpty());
         }
     }
+}
+
+void tst_TextBoxPainters::crossedAndLongLines()
+{
+    constexpr PixelTable::Ink ink{"UIGCLR_LE_BORDER"};
+    constexpr PixelTable::Operation crossed[] = {PixelTable::row(ink, 3, -4, 0), PixelTable::column(ink, 0, 4, -5),
+                                                 PixelTable::area(ink, 3, 0, -4, -1)};
+    constexpr PixelTable::Operation tooLong[] = {PixelTable::row(ink, 0, 9, 0)};
+    const QRect rect(0, 0, 5, 5);
+    const auto drawn = [&rect](const auto &table) {
+        return Picture::of(QSize(12, 12), [&](QPainter *painter) { PixelTable::draw(painter, rect, table); });
+    };
+    QVERIFY(!Picture::paintsOutside(drawn(crossed), QRect()));
+    QVERIFY(!Picture::paintsOutside(drawn(tooLong), rect));
+    QCOMPARE(drawn(tooLong).pixelColor(4, 0), red);
 }
 
 HOUSE_TEST_MAIN(tst_TextBoxPainters)

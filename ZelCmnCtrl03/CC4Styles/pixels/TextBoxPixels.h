@@ -5,7 +5,18 @@
 
 namespace TextBoxPixels {
 
-using namespace PixelTable;
+// Name by name: Qt has a global left and right, with which a directive would clash.
+using PixelTable::area;
+using PixelTable::bottom;
+using PixelTable::column;
+using PixelTable::Ink;
+using PixelTable::left;
+using PixelTable::Operation;
+using PixelTable::point;
+using PixelTable::right;
+using PixelTable::row;
+using PixelTable::slotInk;
+using PixelTable::top;
 
 namespace NormalInks {
 inline constexpr Ink border{"UIGCLR_LE_BORDER"};
