@@ -122,7 +122,9 @@ void CCommonControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOp
     case PE_FrameMenu: return drawFrameMenu(option, painter, widget);
     case PE_FrameTabWidget: return drawFrameTabWidget(option, painter, widget);
     case PE_FrameTabBarBase: return drawFrameTabBarBase(option, painter, widget);
+    case PE_FrameLineEdit: return drawFrameLineEdit(option, painter, widget);
     case PE_PanelButtonCommand: return drawPanelButtonCommand(option, painter, widget);
+    case PE_PanelLineEdit: return drawPanelLineEdit(option, painter, widget);
     case PE_IndicatorArrowDown: return drawIndicatorArrowDown(option, painter);
     case PE_IndicatorBranch: return drawIndicatorBranch(option, painter);
     case PE_IndicatorCheckBox: return drawIndicatorCheckBox(option, painter);

@@ -8,9 +8,11 @@
 #include <memory>
 
 class CButtonEx;
+class CTextBoxEx;
 class QStyleOptionButton;
 class QStyleOptionMenuItem;
 class QStyleOptionTab;
+class QStyleOptionFrame;
 
 /**
  * The house style: one look for standard Qt widgets and for the controls of this library.
@@ -97,6 +99,16 @@ public:
     /** Draws nothing; kept for callers of older versions. */
     void drawToolbarFrame(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
 
+    // Frames of text boxes. They take any option.
+
+    /** The opaque frame, for any widget and the same in all states. */
+    void drawNormalTextBox(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    /**
+     * The half-transparent frame with its filling, brighter under the pointer and once more over it with the focus.
+     * Needs a CTextBoxEx, which is asked for both; without one it draws nothing.
+     */
+    void drawTransparentTextBox(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+
     // Tools of the painters.
 
     /**
@@ -132,6 +144,9 @@ private:
 
     void drawPanelButtonCommand(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const;
+    void drawFrameLineEdit(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawTextBoxFrame(const QStyleOptionFrame *option, QPainter *painter, const CTextBoxEx *box) const;
+    void drawPanelLineEdit(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
 
     void drawFrameMenu(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawFrameTabWidget(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;

@@ -3,6 +3,7 @@
 
 #include "ButtonEx/ButtonEx.h"
 #include "CC4Styles/ButtonText.h"
+#include "TextBoxEx/TextBoxEx.h"
 #include "UiGraphics.h"
 
 #include <QComboBox>
@@ -24,6 +25,16 @@ void polishPushButton(QPushButton *button)
     if (const auto *houseButton = qobject_cast<const CButtonEx *>(button))
         ButtonText::setColours(palette, houseButton);
     button->setPalette(palette);
+}
+
+// See-through behind its text: the field is the painters' business.
+void polishTextBox(CTextBoxEx *textBox)
+{
+    QColor clear = UIGGetColor(QStringLiteral("UIGCLR_WHITE"));
+    clear.setAlpha(0);
+    QPalette palette = textBox->palette();
+    palette.setBrush(QPalette::Base, clear);
+    textBox->setPalette(palette);
 }
 
 void polishMenu(QMenu *menu)
@@ -56,6 +67,8 @@ void CCommonControlStyle::polish(QWidget *widget)
         widget->setAttribute(Qt::WA_Hover);
     if (auto *button = qobject_cast<QPushButton *>(widget))
         polishPushButton(button);
+    if (auto *textBox = qobject_cast<CTextBoxEx *>(widget))
+        polishTextBox(textBox);
     if (auto *menu = qobject_cast<QMenu *>(widget))
         polishMenu(menu);
     if (auto *spinBox = qobject_cast<QSpinBox *>(widget))

@@ -4,6 +4,7 @@
 #include "MenuMakers.h"
 #include "PushButtonMakers.h"
 #include "StillStyle.h"
+#include "TextBoxMakers.h"
 
 #include <QIcon>
 #include <QWidget>
@@ -24,7 +25,8 @@ struct MakerEntry
 constexpr MakerEntry makers[] = {
     {Control::ButtonEx, makeButtonEx, isButtonExSettled}, {Control::PushButton, makePushButton, nullptr},
     {Control::MenuEx, makeMenuExPicture, nullptr},        {Control::Menu, makeMenuPicture, nullptr},
-    {Control::MenuBench, makeMenuBench, nullptr},
+    {Control::MenuBench, makeMenuBench, nullptr},         {Control::TextBoxEx, makeTextBoxEx, nullptr},
+    {Control::LineEdit, makeLineEdit, nullptr},
 };
 
 const MakerEntry &makerOf(Control control)

@@ -13,6 +13,7 @@ struct Row
     CButtonEx::CButtonStyles look = CButtonEx::BSEX_Normal;
     Ground ground = Ground::Page;
     Content content = Content::Text; // in columns that want no other
+    TextBoxLook textBoxLook = {};
 };
 
 struct Column
@@ -29,8 +30,8 @@ std::vector<Specimen> table(const std::vector<Row> &rows, const std::vector<Colu
     for (const Row &row : rows) {
         for (const Column &column : columns) {
             const Content content = column.content == Content::Text ? row.content : column.content;
-            specimens.push_back(
-                {row.caption, column.caption, row.control, row.look, row.ground, column.state, content});
+            specimens.push_back({row.caption, column.caption, row.control, row.look, row.ground, column.state, content,
+                                 row.textBoxLook});
         }
     }
     return specimens;
@@ -104,6 +105,53 @@ const std::vector<Column> menuStates = {
 const std::vector<Row> menuBenchRow = {{QString(), Control::MenuBench}};
 const std::vector<Column> menuBenchColumn = {{QString(), State::Working, Content::PhotosMenu}};
 
+constexpr TextBoxLook transparentBlue = {CTextBoxEx::LineEditTransparent, CTextBoxEx::LineEditBlue};
+constexpr TextBoxLook transparentGray = {CTextBoxEx::LineEditTransparent, CTextBoxEx::LineEditGray};
+constexpr TextBoxLook normalGray = {CTextBoxEx::LineEditNormal, CTextBoxEx::LineEditGray};
+constexpr TextBoxLook normalBlue = {CTextBoxEx::LineEditNormal, CTextBoxEx::LineEditBlue};
+
+Row textBoxRow(const QString &caption, const TextBoxLook &look, Ground ground)
+{
+    return {caption, Control::TextBoxEx, CButtonEx::BSEX_Normal, ground, Content::Text, look};
+}
+
+Specimen workingTextBox(const QString &column, const TextBoxLook &look, Ground ground)
+{
+    return {QString(), column, Control::TextBoxEx, CButtonEx::BSEX_Normal, ground, State::Working, Content::Text, look};
+}
+
+const std::vector<Row> textBoxRows = {
+    textBoxRow(QStringLiteral("Transparent, blue"), transparentBlue, Ground::Tray),
+    textBoxRow(QStringLiteral("Transparent, gray"), transparentGray, Ground::Tray),
+    {QStringLiteral("QLineEdit in a tray"), Control::LineEdit, CButtonEx::BSEX_Normal, Ground::Tray},
+    textBoxRow(QStringLiteral("Normal, gray"), normalGray, Ground::Page),
+    textBoxRow(QStringLiteral("Normal, blue"), normalBlue, Ground::Page),
+    {QStringLiteral("QLineEdit"), Control::LineEdit},
+};
+
+const std::vector<Column> textBoxStates = {
+    {QStringLiteral("Normal"), State::Normal},
+    {QStringLiteral("Hovered"), State::Hovered},
+    {QStringLiteral("Focused"), State::Focused},
+    {QStringLiteral("Disabled"), State::Disabled},
+    {QStringLiteral("Read-only"), State::ReadOnly},
+    {QStringLiteral("Empty"), State::Normal, Content::Nothing},
+    {QStringLiteral("Long text"), State::Normal, Content::LongText},
+};
+
+const std::vector<Specimen> workingTextBoxes = {
+    workingTextBox(QStringLiteral("Normal, gray"), normalGray, Ground::Page),
+    workingTextBox(QStringLiteral("Normal, blue"), normalBlue, Ground::Page),
+};
+
+// With the plain QLineEdit, whose white panel without a frame cannot be seen on the page.
+const std::vector<Specimen> workingTextBoxTray = {
+    workingTextBox(QStringLiteral("Transparent, blue"), transparentBlue, Ground::Tray),
+    workingTextBox(QStringLiteral("Transparent, gray"), transparentGray, Ground::Tray),
+    {QString(), QStringLiteral("QLineEdit"), Control::LineEdit, CButtonEx::BSEX_Normal, Ground::Tray, State::Working,
+     Content::Text},
+};
+
 } // namespace
 
 const std::vector<PageDescription> &pages()
@@ -132,6 +180,20 @@ const std::vector<PageDescription> &pages()
              {QStringLiteral("Working controls"),
               QStringLiteral("The submenu of a CMenuEx opens by click or by key, not by waiting."),
               table(menuBenchRow, menuBenchColumn)},
+         }},
+        {QStringLiteral("text-boxes"),
+         QStringLiteral("Text boxes"),
+         {
+             {QStringLiteral("States"),
+              QStringLiteral("Both looks in both text colours, held still. Read-only, a normal box is bare text. A "
+                             "QLineEdit has no frame."),
+              table(textBoxRows, textBoxStates)},
+             {QStringLiteral("Working controls"),
+              QStringLiteral("The status line tells of focus and edits. In an inactive window all text is gray."),
+              workingTextBoxes},
+             {QStringLiteral("Working controls in a tray"),
+              QStringLiteral("The transparent look is brighter under the pointer, and brighter still with the focus."),
+              workingTextBoxTray},
          }},
     };
     return all;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ZelCmnCtrl03/CButtonEx>
+#include <ZelCmnCtrl03/CTextBoxEx>
 
 #include <QString>
 
@@ -15,7 +16,9 @@ enum class Control
     PushButton,
     MenuEx,
     Menu,
-    MenuBench
+    MenuBench,
+    TextBoxEx,
+    LineEdit
 };
 
 /** Everything but the working ones stands still: it shows its state for good and knows nothing of pointer and keys. */
@@ -29,7 +32,8 @@ enum class State
     Pressed,
     Disabled,
     Default,
-    Flat
+    Flat,
+    ReadOnly
 };
 
 enum class Content
@@ -50,6 +54,13 @@ enum class Ground
     Tray
 };
 
+/** Of a CTextBoxEx. */
+struct TextBoxLook
+{
+    CTextBoxEx::CLineEditStyles style = CTextBoxEx::LineEditTransparent;
+    CTextBoxEx::CLineEditColor color = CTextBoxEx::LineEditBlue;
+};
+
 /** One control of the gallery. Specimens of one group with the same row or column caption stand in line. */
 struct Specimen
 {
@@ -60,6 +71,7 @@ struct Specimen
     Ground ground;
     State state;
     Content content;
+    TextBoxLook textBoxLook = {};
 
     bool isStill() const { return state != State::Working && state != State::WorkingDefault; }
 };

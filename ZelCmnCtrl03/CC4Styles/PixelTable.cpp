@@ -1,0 +1,51 @@
+#include "CC4Styles/PixelTable.h"
+
+#include "UiGraphics.h"
+
+#include <QPainter>
+
+namespace PixelTable {
+
+namespace {
+
+int placed(int place, int nearEdge, int farEdge)
+{
+    return place >= 0 ? nearEdge + place : farEdge + 1 + place;
+}
+
+QRect placed(const Operation &operation, const QRect &rect)
+{
+    return QRect(
+        QPoint(placed(operation.x1, rect.left(), rect.right()), placed(operation.y1, rect.top(), rect.bottom())),
+        QPoint(placed(operation.x2, rect.left(), rect.right()), placed(operation.y2, rect.top(), rect.bottom())));
+}
+
+} // namespace
+
+void draw(QPainter *painter, const QRect &rect, const Operation *operations, std::size_t count, const int *alphas)
+{
+    if (rect.isEmpty())
+        return;
+    // Antialiasing would smear the edges of pixels on a fractional device pixel ratio.
+    const bool wasAntialiased = painter->testRenderHint(QPainter::Antialiasing);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+
+    const char *colorKey = nullptr;
+    QColor color;
+    for (const Operation *operation = operations; operation != operations + count; ++operation) {
+        const QRect pixels = placed(*operation, rect);
+        if (pixels.isEmpty() || !pixels.intersects(rect))
+            continue; // isEmpty: the ends have crossed, and an intersection would put them in order
+        const Ink &ink = operation->ink;
+        if (ink.colorKey != colorKey) { // runs of one key are looked up once
+            colorKey = ink.colorKey;
+            color = UIGGetColor(QLatin1String(colorKey));
+        }
+        color.setAlpha(ink.alphaSlot >= 0 ? alphas[ink.alphaSlot] : ink.alpha);
+        // Rectangles and no lines: they are whole pixels on every device pixel ratio.
+        painter->fillRect(pixels & rect, color);
+    }
+    painter->setRenderHint(QPainter::Antialiasing, wasAntialiased);
+}
+
+} // namespace PixelTable

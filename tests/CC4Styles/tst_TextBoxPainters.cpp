@@ -1,0 +1,381 @@
+// The frames of text boxes and spin boxes, pixel by pixel. Every key has a colour of its own here, so that no two can
+// be mistaken.
+#include "helpers/HouseTest.h"
+
+#include "CC4Styles/CommonControlStyle.h"
+#include "CC4Styles/PixelTable.h"
+#include "TextBoxEx/TextBoxEx.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QSpinBox>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+using Layers = QList<QColor>; // from the ground up
+using Legend = QMap<QChar, Layers>;
+
+const QColor red(0xF0, 0x10, 0x10);
+const QColor green(0x20, 0xE0, 0x20);
+const QColor blue(0x30, 0x30, 0xD0);
+const QColor yellow(0xC0, 0xC0, 0x40);
+const QColor white(0xFF, 0xFF, 0xFF);
+const QColor ground(0x28, 0x50, 0x78);
+
+QColor faint(QColor color, int alpha)
+{
+    color.setAlpha(alpha);
+    return color;
+}
+
+const char normalFrame[] = R"(
+.BBBBBBBB.
+BCDTTTTDCB
+BDLHHHHLDB
+BLH....HLB
+BL......LB
+BL......LB
+blhhhhhhlb
+blhhhhhhlb
+BL......LB
+BL......LB
+blhhhhhhlb
+blhhhhhhlb
+blhhhhhhlb
+BL......LB
+BDH....HDB
+BEDH..HDEB
+BCEDLLDECB
+.BBBBBBBB.)";
+
+Legend normalLegend()
+{
+    const QColor soft = faint(white, 100);
+    const QColor stripe = faint(yellow, 40);
+    return {{'B', {red}},
+            {'C', {red, soft}},
+            {'D', {blue, soft}},
+            {'E', {blue, faint(white, 200)}},
+            {'T', {green}},
+            {'L', {blue}},
+            {'H', {yellow}},
+            {'b', {red, stripe}},
+            {'l', {blue, stripe}},
+            {'h', {stripe}},
+            {'.', {}}};
+}
+
+const char transparentFrame[] = R"(
+..aaaaaaaa..
+.c.dddddd.c.
+a.deeeeeegei
+adeeffffffea
+adefkkkkkkka
+adefkkkkkkka
+adefkkkkkkka
+adefkkkkkkka
+adefkkkkkkka
+acgfkkkkkkka
+.cccccccccc.
+...bbbbbb...)";
+
+struct Alphas
+{
+    int outer, lower, corner, inner, fill, fillEdge;
+};
+
+constexpr Alphas resting{80, 60, 80, 100, 100, 100};
+constexpr Alphas hovered{120, 100, 120, 140, 140, 140};
+constexpr Alphas focussed{200, 180, 120, 220, 255, 220};
+
+Legend transparentLegend(const QList<Alphas> &passes)
+{
+    Legend legend{{'.', {}}};
+    for (const Alphas &pass : passes) {
+        const QColor outer = faint(red, pass.outer);
+        const QColor dark = faint(green, pass.inner);
+        const QColor light = faint(blue, pass.inner);
+        legend['a'] += outer;
+        legend['b'] += faint(red, pass.lower);
+        legend['c'] += faint(red, pass.corner);
+        legend['d'] += dark;
+        legend['e'] += light;
+        legend['f'] += faint(yellow, pass.fillEdge);
+        legend['g'] += Layers{dark, light};
+        legend['i'] += Layers{outer, light};
+        legend['k'] += faint(yellow, pass.fill);
+    }
+    return legend;
+}
+
+/** The picture that the rows of letters describe, over the ground. */
+QImage expected(const char *letters, const Legend &legend)
+{
+    const QStringList rows = QString::fromLatin1(letters).split(QLatin1Char('\n')).mid(1);
+    const QSize size(static_cast<int>(rows.constFirst().size()), static_cast<int>(rows.size()));
+    return Picture::of(size, [&](QPainter *painter) {
+        painter->fillRect(QRect(QPoint(0, 0), size), ground);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x)
+                for (const QColor &layer : legend.value(rows.at(y).at(x)))
+                    painter->fillRect(x, y, 1, 1, layer);
+        }
+    });
+}
+
+void compare(const QImage &actual, const QImage &wanted)
+{
+    QCOMPARE(actual.size(), wanted.size());
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x)
+            QVERIFY2(actual.pixel(x, y) == wanted.pixel(x, y),
+                     qPrintable(QStringLiteral("(%1, %2): %3 in place of %4")
+                                    .arg(x)
+                                    .arg(y)
+                                    .arg(Picture::colorAt(actual, x, y), Picture::colorAt(wanted, x, y))));
+    }
+}
+
+void enter(QWidget &widget)
+{
+    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void giveFocus(QWidget &widget)
+{
+    QFocusEvent event(QEvent::FocusIn);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+QStyleOptionFrame frameOption(const QSize &size)
+{
+    QStyleOptionFrame option;
+    option.rect = QRect(QPoint(0, 0), size);
+    option.state = QStyle::State_Enabled;
+    return option;
+}
+
+} // namespace
+
+class tst_TextBoxPainters : public HouseTest
+{
+    Q_OBJECT
+
+public:
+    tst_TextBoxPainters() { qputenv("ZEL_GRAPHICS_DIR", m_graphics.path().toLocal8Bit()); }
+
+private Q_SLOTS:
+    void initTestCase();
+    void normalFrameIsOneForAllStates();
+    void transparentFrames();
+    void panels_data();
+    void panels();
+    void spinBoxFrame();
+    void wrongOptionOrWidgetPaintsNothing();
+    void pixelsStayWhole();
+    void smallAndMovedFramesStayInside();
+    void crossedAndLongLines();
+
+private:
+    QImage panel(const QWidget *widget, const QSize &size) const;
+    void drawBoth(QPainter *painter, const QStyleOption &option, const QWidget &box) const;
+
+    QTemporaryDir m_graphics;
+    std::unique_ptr<CCommonControlStyle> m_style;
+};
+
+void tst_TextBoxPainters::initTestCase()
+{
+    QFile xml(QDir(m_graphics.path()).filePath(QStringLiteral("UIGraphics.xml")));
+    QVERIFY(xml.open(QIODevice::WriteOnly));
+    const QList<QPair<const char *, QColor>> colors = {
+        {"LE_BORDER", red},          {"LE_TOPBORDER1", green},   {"LE_BOTTOMBORDER1", blue},
+        {"LE_TOPBORDER2", yellow},   {"LE_BACKGROUND", white},   {"TB_TRANS_BORDER1", red},
+        {"TB_TRANS_BORDER2", green}, {"TB_TRANS_BORDER3", blue}, {"TB_TRANS_FILLRECT", yellow},
+        {"SPIN_BACKGROUND", green},  {"SPIN_BORDER", red}};
+    xml.write("<look>");
+    for (const auto &color : colors)
+        xml.write(QStringLiteral("<Color Name='UIGCLR_%1'>%2</Color>")
+                      .arg(QLatin1String(color.first), color.second.name().mid(1))
+                      .toLatin1());
+    xml.write("</look>");
+    xml.close();
+    m_style = std::make_unique<CCommonControlStyle>();
+}
+
+QImage tst_TextBoxPainters::panel(const QWidget *widget, const QSize &size) const
+{
+    const QStyleOptionFrame option = frameOption(size);
+    return Picture::of(size, [&](QPainter *painter) {
+        painter->fillRect(option.rect, ground);
+        m_style->drawPrimitive(QStyle::PE_PanelLineEdit, &option, painter, widget);
+    });
+}
+
+void tst_TextBoxPainters::normalFrameIsOneForAllStates()
+{
+    CTextBoxEx box;
+    QStyleOption option; // of no special type
+    const QImage wanted = expected(normalFrame, normalLegend());
+    option.rect = wanted.rect();
+    const auto frame = [&](const QWidget *widget) {
+        return Picture::of(wanted.size(), [&](QPainter *painter) {
+            painter->fillRect(option.rect, ground);
+            m_style->drawNormalTextBox(&option, painter, widget);
+        });
+    };
+    compare(frame(nullptr), wanted);
+    enter(box);
+    giveFocus(box);
+    box.setEnabled(false);
+    compare(frame(&box), wanted);
+}
+
+void tst_TextBoxPainters::transparentFrames()
+{
+    CTextBoxEx box;
+    const auto check = [&](const QList<Alphas> &passes) {
+        const QImage wanted = expected(transparentFrame, transparentLegend(passes));
+        compare(panel(&box, wanted.size()), wanted);
+    };
+    check({resting});
+    box.setReadOnly(true); // makes no difference
+    check({resting});
+    enter(box);
+    check({hovered});
+    giveFocus(box);
+    check({hovered, focussed});
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&box, &leave);
+    check({resting, focussed});
+}
+
+void tst_TextBoxPainters::panels_data()
+{
+    QTest::addColumn<int>("style"); // -1: a plain QLineEdit
+    QTest::addColumn<bool>("readOnly");
+    QTest::addColumn<bool>("isFilled");
+    QTest::addColumn<bool>("hasFrame");
+    QTest::newRow("normal") << 1 << false << true << true;
+    QTest::newRow("normal, read-only") << 1 << true << false << false;
+    QTest::newRow("other look") << 2 << false << false << false;
+    QTest::newRow("QLineEdit") << -1 << false << true << false;
+    QTest::newRow("QLineEdit, read-only") << -1 << true << true << false;
+}
+
+void tst_TextBoxPainters::panels()
+{
+    QFETCH(int, style);
+    QFETCH(bool, readOnly);
+    QFETCH(bool, isFilled);
+    QFETCH(bool, hasFrame);
+    CTextBoxEx box;
+    box.setLineEditStyle(static_cast<CTextBoxEx::CLineEditStyles>(style));
+    QLineEdit plain;
+    QLineEdit &edit = style < 0 ? plain : box;
+    edit.setReadOnly(readOnly);
+    const QImage image = panel(&edit, QSize(30, 24));
+    QCOMPARE(image.pixelColor(10, 14), isFilled ? white : ground);
+    QCOMPARE(image.pixelColor(1, 8), hasFrame ? blue : isFilled ? white : ground);
+    QCOMPARE(image.pixelColor(28, 22) == ground, !isFilled);
+    QCOMPARE(image.pixelColor(0, 8), hasFrame ? red : ground);
+    QCOMPARE(image.pixelColor(29, 23), ground);
+}
+
+void tst_TextBoxPainters::spinBoxFrame()
+{
+    const char *frame = "\nRRRRRR\nRGGGGR\nRGGGGR\nRRRRRR";
+    QSpinBox spinBox;
+    QStyleOptionFrame option = frameOption(QSize(6, 4));
+    const auto draw = [&](QPainter *painter) {
+        m_style->drawPrimitive(QStyle::PE_FrameLineEdit, &option, painter, &spinBox);
+    };
+    compare(Picture::of(option.rect.size(), draw), expected(frame, {{'R', {red}}, {'G', {green}}}));
+    option.state = QStyle::State_None; // disabled
+    compare(Picture::of(option.rect.size(), draw), expected(frame, {{'R', {red}}, {'G', {green, faint(red, 10)}}}));
+}
+
+void tst_TextBoxPainters::wrongOptionOrWidgetPaintsNothing()
+{
+    const CTextBoxEx box;
+    const QLineEdit plain;
+    QStyleOption option;
+    option.rect = QRect(0, 0, 30, 20);
+    const QImage image = Picture::of(option.rect.size(), [&](QPainter *painter) {
+        m_style->drawPrimitive(QStyle::PE_PanelLineEdit, &option, painter, &box);
+        m_style->drawPrimitive(QStyle::PE_FrameLineEdit, &option, painter, &box);
+        m_style->drawTransparentTextBox(&option, painter, &plain);
+    });
+    QVERIFY(!Picture::paintsOutside(image, QRect()));
+}
+
+void tst_TextBoxPainters::drawBoth(QPainter *painter, const QStyleOption &option, const QWidget &box) const
+{
+    m_style->drawNormalTextBox(&option, painter, &box);
+    m_style->drawTransparentTextBox(&option, painter, &box);
+}
+
+void tst_TextBoxPainters::pixelsStayWhole()
+{
+    const CTextBoxEx box;
+    const QStyleOptionFrame option = frameOption(QSize(30, 20));
+    const auto draw = [&](QPainter *painter) {
+        painter->setRenderHint(QPainter::Antialiasing); // as the text painting of the style leaves it
+        drawBoth(painter, option, box);
+        QVERIFY(painter->testRenderHint(QPainter::Antialiasing));
+    };
+    const QImage normal = Picture::of(option.rect.size(), draw);
+    for (const qreal ratio : {2.0, 3.0}) {
+        QImage dense = Picture::of(option.rect.size(), draw, ratio);
+        dense.setDevicePixelRatio(1.0);
+        compare(dense, normal.scaled(dense.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    }
+}
+
+void tst_TextBoxPainters::smallAndMovedFramesStayInside()
+{
+    CTextBoxEx box;
+    giveFocus(box);
+    CTextBoxEx normal;
+    normal.setLineEditStyle(CTextBoxEx::LineEditNormal);
+    const QLineEdit plain;
+    const QSpinBox spinBox;
+    for (int width = 0; width <= 13; ++width) {
+        for (int height = 0; height <= 13; ++height) {
+            QStyleOptionFrame option = frameOption(QSize(width, height));
+            option.rect.translate(20, 15);
+            const QImage image = Picture::of(QSize(60, 50), [&](QPainter *painter) {
+                drawBoth(painter, option, box);
+                for (const QWidget *widget : std::initializer_list<const QWidget *>{&box, &normal, &plain})
+                    m_style->drawPrimitive(QStyle::PE_PanelLineEdit, &option, painter, widget);
+                m_style->drawPrimitive(QStyle::PE_FrameLineEdit, &option, painter, &spinBox);
+            });
+            QVERIFY(!Picture::paintsOutside(image, option.rect));
+            QCOMPARE(Picture::paintsOutside(image, QRect()), !option.rect.isEmpty());
+        }
+    }
+}
+
+void tst_TextBoxPainters::crossedAndLongLines()
+{
+    constexpr PixelTable::Ink ink{"UIGCLR_LE_BORDER"};
+    constexpr PixelTable::Operation crossed[] = {PixelTable::row(ink, 3, -4, 0), PixelTable::column(ink, 0, 4, -5),
+                                                 PixelTable::area(ink, 3, 0, -4, -1)};
+    constexpr PixelTable::Operation tooLong[] = {PixelTable::row(ink, 0, 9, 0)};
+    const QRect rect(0, 0, 5, 5);
+    const auto drawn = [&rect](const auto &table) {
+        return Picture::of(QSize(12, 12), [&](QPainter *painter) { PixelTable::draw(painter, rect, table); });
+    };
+    QVERIFY(!Picture::paintsOutside(drawn(crossed), QRect()));
+    QVERIFY(!Picture::paintsOutside(drawn(tooLong), rect));
+    QCOMPARE(drawn(tooLong).pixelColor(4, 0), red);
+}
+
+HOUSE_TEST_MAIN(tst_TextBoxPainters)
+#include "tst_TextBoxPainters.moc"
