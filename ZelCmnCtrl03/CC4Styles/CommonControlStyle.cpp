@@ -134,6 +134,24 @@ void CCommonControlStyle::drawControl(ControlElement element, const QStyleOption
     }
 }
 
+void CCommonControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                             QPainter *painter, const QWidget *widget) const
+{
+    switch (control) {
+    case CC_Slider: return drawSlider(option, painter, widget);
+    default: return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+QRect CCommonControlStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                          SubControl subControl, const QWidget *widget) const
+{
+    switch (control) {
+    case CC_Slider: return sliderSubControlRect(option, subControl, widget);
+    default: return QProxyStyle::subControlRect(control, option, subControl, widget);
+    }
+}
+
 void CCommonControlStyle::drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
                                        bool enabled, const QString &text, QPalette::ColorRole textRole) const
 {

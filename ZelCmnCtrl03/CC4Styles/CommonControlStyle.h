@@ -52,6 +52,10 @@ public:
                        const QWidget *widget = nullptr) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl subControl,
+                         const QWidget *widget = nullptr) const override;
 
     /** Draws with antialiasing, which stays on for the painter afterwards. */
     void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette, bool enabled,
@@ -114,6 +118,10 @@ private:
                                const CButtonEx *button) const;
     void drawPushButtonLabel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawHouseButtonLabel(const QStyleOptionButton *option, QPainter *painter, const CButtonEx *button) const;
+
+    /** Tells a CSliderEx the rectangle of its handle. */
+    void drawSlider(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+    QRect sliderSubControlRect(const QStyleOptionComplex *option, SubControl subControl, const QWidget *widget) const;
 
     std::unique_ptr<QStyle> m_pNativeStyle; // draws the face of a push button that is no CButtonEx
     bool m_bPaletteGiven = false;           // to the application, by polish()
