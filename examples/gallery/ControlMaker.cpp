@@ -3,6 +3,7 @@
 #include "MenuBench.h"
 #include "MenuMakers.h"
 #include "PushButtonMakers.h"
+#include "SliderMakers.h"
 #include "StillStyle.h"
 
 #include <QIcon>
@@ -22,9 +23,14 @@ struct MakerEntry
 };
 
 constexpr MakerEntry makers[] = {
-    {Control::ButtonEx, makeButtonEx, isButtonExSettled}, {Control::PushButton, makePushButton, nullptr},
-    {Control::MenuEx, makeMenuExPicture, nullptr},        {Control::Menu, makeMenuPicture, nullptr},
+    {Control::ButtonEx, makeButtonEx, isButtonExSettled},
+    {Control::PushButton, makePushButton, nullptr},
+    {Control::MenuEx, makeMenuExPicture, nullptr},
+    {Control::Menu, makeMenuPicture, nullptr},
     {Control::MenuBench, makeMenuBench, nullptr},
+    {Control::SliderEx, makeSliderEx, nullptr},
+    {Control::Slider, makeSlider, nullptr},
+    {Control::VerticalSlider, makeVerticalSlider, nullptr},
 };
 
 const MakerEntry &makerOf(Control control)

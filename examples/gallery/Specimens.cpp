@@ -104,6 +104,38 @@ const std::vector<Column> menuStates = {
 const std::vector<Row> menuBenchRow = {{QString(), Control::MenuBench}};
 const std::vector<Column> menuBenchColumn = {{QString(), State::Working, Content::PhotosMenu}};
 
+Row sliderRow(const QString &caption, Control control, Content content = Content::Text)
+{
+    return {caption, control, CButtonEx::BSEX_Normal, Ground::Page, content};
+}
+
+const std::vector<Row> sliderRows = {
+    sliderRow(QStringLiteral("CSliderEx"), Control::SliderEx),
+    sliderRow(QStringLiteral("Ticks below"), Control::SliderEx, Content::TicksBelow),
+    sliderRow(QStringLiteral("Ticks above"), Control::SliderEx, Content::TicksAbove),
+    sliderRow(QStringLiteral("Ticks on both sides"), Control::SliderEx, Content::TicksBothSides),
+    sliderRow(QStringLiteral("Knob image"), Control::SliderEx, Content::Knob),
+    sliderRow(QStringLiteral("QSlider"), Control::Slider),
+    sliderRow(QStringLiteral("QSlider, vertical"), Control::VerticalSlider, Content::TicksAbove),
+};
+
+const std::vector<Column> sliderStates = {
+    {QStringLiteral("Normal"), State::Normal},     {QStringLiteral("Hovered"), State::Hovered},
+    {QStringLiteral("Focused"), State::Focused},   {QStringLiteral("Pressed"), State::Pressed},
+    {QStringLiteral("Disabled"), State::Disabled},
+};
+
+const std::vector<Specimen> workingSliders = {
+    {QString(), QStringLiteral("CSliderEx"), Control::SliderEx, CButtonEx::BSEX_Normal, Ground::Page, State::Working,
+     Content::TicksBelow},
+    {QString(), QStringLiteral("CSliderEx, knob image"), Control::SliderEx, CButtonEx::BSEX_Normal, Ground::Page,
+     State::Working, Content::Knob},
+    {QString(), QStringLiteral("QSlider"), Control::Slider, CButtonEx::BSEX_Normal, Ground::Page, State::Working,
+     Content::Text},
+    {QString(), QStringLiteral("QSlider, vertical"), Control::VerticalSlider, CButtonEx::BSEX_Normal, Ground::Page,
+     State::Working, Content::TicksBelow},
+};
+
 } // namespace
 
 const std::vector<PageDescription> &pages()
@@ -132,6 +164,14 @@ const std::vector<PageDescription> &pages()
              {QStringLiteral("Working controls"),
               QStringLiteral("The submenu of a CMenuEx opens by click or by key, not by waiting."),
               table(menuBenchRow, menuBenchColumn)},
+         }},
+        {QStringLiteral("sliders"),
+         QStringLiteral("Sliders"),
+         {
+             {QStringLiteral("States"), QStringLiteral("A slider that is hovered, focused or pressed looks as ever."),
+              table(sliderRows, sliderStates)},
+             {QStringLiteral("Working controls"),
+              QStringLiteral("A CSliderEx jumps to the click, and the wheel leaves it alone."), workingSliders},
          }},
     };
     return all;

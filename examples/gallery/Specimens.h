@@ -15,7 +15,10 @@ enum class Control
     PushButton,
     MenuEx,
     Menu,
-    MenuBench
+    MenuBench,
+    SliderEx,
+    Slider,
+    VerticalSlider
 };
 
 /** Everything but the working ones stands still: it shows its state for good and knows nothing of pointer and keys. */
@@ -40,7 +43,11 @@ enum class Content
     Image,
     Nothing,
     PrintMenu,
-    PhotosMenu
+    PhotosMenu,
+    TicksBelow,
+    TicksAbove,
+    TicksBothSides,
+    Knob
 };
 
 /** What is behind a control. */
