@@ -161,6 +161,7 @@ void CCommonControlStyle::drawComplexControl(ComplexControl control, const QStyl
     case CC_ComboBox: return drawComboBox(option, painter);
     case CC_ScrollBar: return drawScrollBar(option, painter, widget);
     case CC_SpinBox: return drawSpinBox(option, painter, widget);
+    case CC_Slider: return drawSlider(option, painter, widget);
     default: return QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 }

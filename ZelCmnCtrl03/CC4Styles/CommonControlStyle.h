@@ -185,6 +185,10 @@ private:
     void drawPushButtonLabel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawHouseButtonLabel(const QStyleOptionButton *option, QPainter *painter, const CButtonEx *button) const;
 
+    /** Tells a CSliderEx the rectangle of its handle. */
+    void drawSlider(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+    QRect sliderSubControlRect(const QStyleOptionComplex *option, SubControl subControl, const QWidget *widget) const;
+
     std::unique_ptr<QStyle> m_pNativeStyle; // draws the face of a push button that is no CButtonEx
     bool m_bPaletteGiven = false;           // to the application, by polish()
     bool m_bShapingToolTip = false;         // its own resizing must not shape it again

@@ -144,6 +144,7 @@ QRect CCommonControlStyle::subControlRect(ComplexControl control, const QStyleOp
     switch (control) {
     case CC_SpinBox: return spinBoxRect(option, subControl);
     case CC_ComboBox: return comboBoxRect(option, subControl, widget);
+    case CC_Slider: return sliderSubControlRect(option, subControl, widget);
     // The plain layout, whatever the base style's looks like.
     case CC_ScrollBar: return QCommonStyle::subControlRect(control, option, subControl, widget);
     default: return QProxyStyle::subControlRect(control, option, subControl, widget);

@@ -110,7 +110,7 @@ void drawCaps(QPainter *painter, const QRect &area, const ScrollBar &bar)
     painter->drawPixmap(area.left() + sliderInset, area.bottom() - secondCapFromEnd, bitmap("Bottom.png"));
 }
 
-void drawSlider(QPainter *painter, const ScrollBar &bar, const QRect &rect)
+void drawSliderBody(QPainter *painter, const ScrollBar &bar, const QRect &rect)
 {
     PaintTools::drawFoundPicture(
         painter, rect.topLeft(), rect.size(), bar.orientedKey("scrollbar_slider", rect.size()),
@@ -141,5 +141,5 @@ void CCommonControlStyle::drawScrollBar(const QStyleOptionComplex *option, QPain
         drawForwardArrow(painter, bar, rectOf(SC_ScrollBarAddLine));
     const QRect sliderRect = rectOf(SC_ScrollBarSlider);
     if ((slider->subControls & SC_ScrollBarSlider) && sliderRect.isValid())
-        drawSlider(painter, bar, sliderRect);
+        drawSliderBody(painter, bar, sliderRect);
 }

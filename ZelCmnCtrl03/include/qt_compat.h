@@ -63,4 +63,14 @@ inline QPoint globalPosition(const QMouseEvent *event)
 #endif
 }
 
+/** Where in the widget a mouse event happened. */
+inline QPoint localPosition(const QMouseEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->position().toPoint();
+#else
+    return event->pos();
+#endif
+}
+
 } // namespace zel

@@ -3,6 +3,7 @@
 #include "MenuBench.h"
 #include "MenuMakers.h"
 #include "PushButtonMakers.h"
+#include "SliderMakers.h"
 #include "StillStyle.h"
 #include "TextBoxMakers.h"
 
@@ -23,10 +24,16 @@ struct MakerEntry
 };
 
 constexpr MakerEntry makers[] = {
-    {Control::ButtonEx, makeButtonEx, isButtonExSettled}, {Control::PushButton, makePushButton, nullptr},
-    {Control::MenuEx, makeMenuExPicture, nullptr},        {Control::Menu, makeMenuPicture, nullptr},
-    {Control::MenuBench, makeMenuBench, nullptr},         {Control::TextBoxEx, makeTextBoxEx, nullptr},
+    {Control::ButtonEx, makeButtonEx, isButtonExSettled},
+    {Control::PushButton, makePushButton, nullptr},
+    {Control::MenuEx, makeMenuExPicture, nullptr},
+    {Control::Menu, makeMenuPicture, nullptr},
+    {Control::MenuBench, makeMenuBench, nullptr},
+    {Control::TextBoxEx, makeTextBoxEx, nullptr},
     {Control::LineEdit, makeLineEdit, nullptr},
+    {Control::SliderEx, makeSliderEx, nullptr},
+    {Control::Slider, makeSlider, nullptr},
+    {Control::VerticalSlider, makeVerticalSlider, nullptr},
 };
 
 const MakerEntry &makerOf(Control control)

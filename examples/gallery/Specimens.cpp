@@ -152,6 +152,38 @@ const std::vector<Specimen> workingTextBoxTray = {
      Content::Text},
 };
 
+Row sliderRow(const QString &caption, Control control, Content content = Content::Text)
+{
+    return {caption, control, CButtonEx::BSEX_Normal, Ground::Page, content};
+}
+
+const std::vector<Row> sliderRows = {
+    sliderRow(QStringLiteral("CSliderEx"), Control::SliderEx),
+    sliderRow(QStringLiteral("Ticks below"), Control::SliderEx, Content::TicksBelow),
+    sliderRow(QStringLiteral("Ticks above"), Control::SliderEx, Content::TicksAbove),
+    sliderRow(QStringLiteral("Ticks on both sides"), Control::SliderEx, Content::TicksBothSides),
+    sliderRow(QStringLiteral("Knob image"), Control::SliderEx, Content::Knob),
+    sliderRow(QStringLiteral("QSlider"), Control::Slider),
+    sliderRow(QStringLiteral("QSlider, vertical"), Control::VerticalSlider, Content::TicksAbove),
+};
+
+const std::vector<Column> sliderStates = {
+    {QStringLiteral("Normal"), State::Normal},     {QStringLiteral("Hovered"), State::Hovered},
+    {QStringLiteral("Focused"), State::Focused},   {QStringLiteral("Pressed"), State::Pressed},
+    {QStringLiteral("Disabled"), State::Disabled},
+};
+
+const std::vector<Specimen> workingSliders = {
+    {QString(), QStringLiteral("CSliderEx"), Control::SliderEx, CButtonEx::BSEX_Normal, Ground::Page, State::Working,
+     Content::TicksBelow},
+    {QString(), QStringLiteral("CSliderEx, knob image"), Control::SliderEx, CButtonEx::BSEX_Normal, Ground::Page,
+     State::Working, Content::Knob},
+    {QString(), QStringLiteral("QSlider"), Control::Slider, CButtonEx::BSEX_Normal, Ground::Page, State::Working,
+     Content::Text},
+    {QString(), QStringLiteral("QSlider, vertical"), Control::VerticalSlider, CButtonEx::BSEX_Normal, Ground::Page,
+     State::Working, Content::TicksBelow},
+};
+
 } // namespace
 
 const std::vector<PageDescription> &pages()
@@ -194,6 +226,14 @@ const std::vector<PageDescription> &pages()
              {QStringLiteral("Working controls in a tray"),
               QStringLiteral("The transparent look is brighter under the pointer, and brighter still with the focus."),
               workingTextBoxTray},
+         }},
+        {QStringLiteral("sliders"),
+         QStringLiteral("Sliders"),
+         {
+             {QStringLiteral("States"), QStringLiteral("A slider that is hovered, focused or pressed looks as ever."),
+              table(sliderRows, sliderStates)},
+             {QStringLiteral("Working controls"),
+              QStringLiteral("A CSliderEx jumps to the click, and the wheel leaves it alone."), workingSliders},
          }},
     };
     return all;

@@ -18,7 +18,10 @@ enum class Control
     Menu,
     MenuBench,
     TextBoxEx,
-    LineEdit
+    LineEdit,
+    SliderEx,
+    Slider,
+    VerticalSlider
 };
 
 /** Everything but the working ones stands still: it shows its state for good and knows nothing of pointer and keys. */
@@ -44,7 +47,11 @@ enum class Content
     Image,
     Nothing,
     PrintMenu,
-    PhotosMenu
+    PhotosMenu,
+    TicksBelow,
+    TicksAbove,
+    TicksBothSides,
+    Knob
 };
 
 /** What is behind a control. */

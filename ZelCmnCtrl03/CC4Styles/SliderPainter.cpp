@@ -1,0 +1,225 @@
+// Groove, handle and tick marks of a slider.
+#include "CC4Styles/CommonControlStyle.h"
+
+#include "CC4Styles/PaintTools.h"
+#include "CC4Styles/pixels/SliderPixels.h"
+#include "SliderEx/SliderEx.h"
+#include "UiGraphics.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+constexpr int standardTickCount = 15;
+constexpr int percents = 100;   // an interval of tick marks counts as so many of these, whatever the range is
+constexpr int tickMargin = 5;   // from the ends of the slider to the outermost tick marks
+constexpr int tickDistance = 2; // from the slider's edge; a long tick mark is one pixel nearer
+
+// Percent of the colour's brightness.
+constexpr int tickShade = 178;
+constexpr int handleTopLight = 104;
+constexpr int handleBottomShade = 105;
+
+// Where the image of the handle is drawn, from the handle's own place.
+constexpr int dropWithTicksBelow = 2;
+constexpr int liftWithTicksAbove = 1;
+
+template <std::size_t N>
+void drawLines(QPainter *painter, const QRect &rect, const SliderPixels::Line (&lines)[N])
+{
+    const auto column = [&rect](SliderPixels::Place x) {
+        return (x.isFromFarEdge ? rect.right() : rect.left()) + x.distance;
+    };
+    const auto row = [&rect](SliderPixels::Place y) {
+        return (y.isFromFarEdge ? rect.bottom() : rect.top()) + y.distance;
+    };
+    // Rectangles: they stay whole pixels on every device pixel ratio. In a rectangle that is too small for it a line is
+    // empty.
+    for (const SliderPixels::Line &line : lines)
+        painter->fillRect(QRect(QPoint(column(line.x1), row(line.y1)), QPoint(column(line.x2), row(line.y2))),
+                          UIGGetColor(QLatin1String(line.colorKey)));
+}
+
+bool hasTicksAbove(const QStyleOptionSlider *option)
+{
+    return (option->tickPosition & QSlider::TicksAbove) != 0;
+}
+
+bool hasTicksBelow(const QStyleOptionSlider *option)
+{
+    return (option->tickPosition & QSlider::TicksBelow) != 0;
+}
+
+// What a part's picture is filled with. A gradient would begin anew in each part.
+QBrush partGround(const QPalette &palette)
+{
+    switch (palette.window().style()) {
+    case Qt::LinearGradientPattern:
+    case Qt::RadialGradientPattern:
+    case Qt::ConicalGradientPattern: return QBrush(Qt::transparent);
+    default: return palette.window();
+    }
+}
+
+using DrawPart = void (*)(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option);
+
+/** What `draw` draws on the ground of the slider, for the device of `target`. */
+QPixmap partPicture(const QPainter *target, const QSize &size, const QStyleOptionSlider *option, DrawPart draw)
+{
+    const qreal ratio = PaintTools::deviceRatio(target);
+    QPixmap picture(size * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    const QRect rect(QPoint(0, 0), size);
+    QPainter painter(&picture);
+    painter.fillRect(rect, partGround(option->palette));
+    draw(&painter, rect, option);
+    painter.end();
+    return picture;
+}
+
+void drawGroove(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option)
+{
+    if (option->orientation == Qt::Horizontal)
+        drawLines(painter, rect, SliderPixels::horizontalGroove);
+    else
+        drawLines(painter, rect, SliderPixels::verticalGroove);
+}
+
+// Points to the left or to the right.
+QPolygon verticalHandleShape(const QRect &rect, bool pointsLeft)
+{
+    const int top = rect.top() + 1;
+    const int tip = rect.top() + 5;
+    const int bottom = rect.bottom();
+    const int right = rect.right();
+    const int left = rect.left();
+    if (pointsLeft)
+        return QPolygon({{right, top}, {right - 10, top}, {right - 14, tip}, {right - 10, bottom}, {right, bottom}});
+    return QPolygon({{left + 1, top}, {left + 10, top}, {left + 14, tip}, {left + 10, bottom}, {left + 1, bottom}});
+}
+
+QBrush verticalHandleFill(const QStyleOptionSlider *option, const QRect &rect)
+{
+    if (!option->state.testFlag(QStyle::State_Enabled))
+        return option->palette.window();
+    const QColor button = option->palette.button().color();
+    const int centre = rect.center().x();
+    QLinearGradient gradient(centre, rect.top(), centre, rect.bottom());
+    gradient.setColorAt(0, button.lighter(handleTopLight));
+    gradient.setColorAt(1, button.darker(handleBottomShade));
+    return gradient;
+}
+
+void drawHandle(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option)
+{
+    if (option->orientation == Qt::Horizontal)
+        return drawLines(painter, rect, SliderPixels::horizontalHandle);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(verticalHandleFill(option, rect));
+    painter->drawPolygon(verticalHandleShape(rect, hasTicksAbove(option) && !hasTicksBelow(option)));
+}
+
+// The image points at its tick marks: turned over for those above, lowered for those below.
+void placeHandle(QPainter *painter, const QPoint &topLeft, const QPixmap &image, const QStyleOptionSlider *option)
+{
+    if (hasTicksBelow(option))
+        return painter->drawPixmap(topLeft + QPoint(0, dropWithTicksBelow), image);
+    if (!hasTicksAbove(option))
+        return painter->drawPixmap(topLeft, image);
+    const QPixmap mirrored = QPixmap::fromImage(image.toImage().mirrored(false, true));
+    painter->drawPixmap(topLeft - QPoint(0, liftWithTicksAbove), mirrored);
+}
+
+// Places of tick marks in the order of drawing; the first and the last one of that order are the long ones.
+
+std::vector<int> evenlySpreadTicks(int first, int last, int count)
+{
+    std::vector<int> places;
+    for (int i = 0; i < count; ++i)
+        places.push_back(first + (last - first) * i / (count - 1));
+    return places;
+}
+
+// With one exactly in the middle, which comes first.
+std::vector<int> centredTicks(int first, int last, int count)
+{
+    const int middle = (first + last) / 2;
+    const int half = (count - 1) / 2;
+    std::vector<int> places = {middle};
+    for (int i = 0; i < half; ++i)
+        places.push_back(first + (middle - first) * i / half);
+    for (int i = 1; i <= half; ++i)
+        places.push_back(middle + (last - middle) * i / half);
+    return places;
+}
+
+std::vector<int> tickPlaces(const QStyleOptionSlider *option)
+{
+    const QRect &rect = option->rect;
+    if (option->orientation != Qt::Horizontal)
+        return evenlySpreadTicks(rect.top() + tickMargin, rect.bottom() - tickMargin, standardTickCount);
+    const int first = rect.left() + tickMargin;
+    const int last = rect.right() - tickMargin;
+    const int count = option->tickInterval == 0 ? standardTickCount : percents / option->tickInterval;
+    if (count <= 0)
+        return {};
+    return count % 2 == 0 ? evenlySpreadTicks(first, last, count) : centredTicks(first, last, count);
+}
+
+/** One tick mark, both ends included, in either order. */
+void drawTick(QPainter *painter, Qt::Orientation orientation, int place, int begin, int end, const QColor &color)
+{
+    const int start = std::min(begin, end);
+    const int length = std::max(begin, end) - start + 1;
+    if (orientation == Qt::Horizontal)
+        painter->fillRect(place, start, 1, length, color);
+    else
+        painter->fillRect(start, place, length, 1, color);
+}
+
+void drawTicks(QPainter *painter, const QStyleOptionSlider *option, int offset)
+{
+    const bool isHorizontal = option->orientation == Qt::Horizontal;
+    const int nearEdge = isHorizontal ? option->rect.top() : option->rect.left();
+    const int farEdge = isHorizontal ? option->rect.bottom() : option->rect.right();
+    const QColor color = option->palette.window().color().darker(tickShade);
+    const std::vector<int> places = tickPlaces(option);
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const bool isLong = i == 0 || i + 1 == places.size();
+        const int distance = isLong ? tickDistance - 1 : tickDistance;
+        if (hasTicksAbove(option))
+            drawTick(painter, option->orientation, places[i], nearEdge + distance, nearEdge + offset, color);
+        if (hasTicksBelow(option))
+            drawTick(painter, option->orientation, places[i], farEdge - distance, farEdge - offset, color);
+    }
+}
+
+} // namespace
+
+void CCommonControlStyle::drawSlider(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (slider == nullptr)
+        return;
+    const QRect groove = proxy()->subControlRect(CC_Slider, slider, SC_SliderGroove, widget);
+    const QRect handle = proxy()->subControlRect(CC_Slider, slider, SC_SliderHandle, widget);
+    const auto *sliderEx = qobject_cast<const CSliderEx *>(widget);
+    // The slider is told what is painted; nothing that painting depends on changes by it.
+    if (sliderEx != nullptr)
+        const_cast<CSliderEx *>(sliderEx)->setHandleRect(handle);
+
+    if (slider->subControls.testFlag(SC_SliderGroove) && groove.isValid())
+        painter->drawPixmap(groove.topLeft(), partPicture(painter, groove.size(), slider, drawGroove));
+    if (slider->subControls.testFlag(SC_SliderHandle) && handle.isValid()) {
+        const bool hasKnob = sliderEx != nullptr && !sliderEx->knobImage().isNull();
+        placeHandle(painter, handle.topLeft(),
+                    hasKnob ? sliderEx->knobImage() : partPicture(painter, handle.size(), slider, drawHandle), slider);
+    }
+    if (slider->subControls.testFlag(SC_SliderTickmarks))
+        drawTicks(painter, slider, proxy()->pixelMetric(PM_SliderTickmarkOffset, slider, widget));
+}
