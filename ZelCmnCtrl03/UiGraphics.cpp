@@ -87,6 +87,7 @@ void CUIGraphics::GetCULValues(const QString &key)
         return;
     ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::RetrieveFilePath : BaseValue found"));
     m_sGraphicsDir = QString::fromUtf16(value);
+    ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::GetCULValues : graphics directory: ") + m_sGraphicsDir);
 }
 
 void CUIGraphics::initializeColorMap()
@@ -109,6 +110,7 @@ void CUIGraphics::readXmlFiles()
 void CUIGraphics::ReadUIGraphicsXml(const QString &path)
 {
     ZEL_LOG_SCOPE_OF(zel::UiGraphics);
+    ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::ReadUIGraphicsXml : ") + path);
     const LookOverrides overrides = readLookOverrides(path);
     for (const LookOverride &color : overrides.colors) {
         const auto held = m_colorMap.find(color.name);
