@@ -1,6 +1,7 @@
 // Menu items.
 #include "CC4Styles/CommonControlStyle.h"
 
+#include "CC4Styles/PaintTools.h"
 #include "UiGraphics.h"
 #include "include/qt_compat.h"
 
@@ -55,7 +56,7 @@ void drawCheckMark(QPainter *painter, const MenuItem &item)
         return;
     const QString name =
         item.option->checked ? QStringLiteral("CheckboxActiveChecked.png") : QStringLiteral("CheckboxActive.png");
-    const QPixmap mark = UIGGetPixmap(name, painter->device()->devicePixelRatioF());
+    const QPixmap mark = UIGGetPixmap(name, PaintTools::deviceRatio(painter));
     const QRect rect = item.option->rect;
     const QRect place = item.visual(QRect(QPoint(rect.left() + 7, rect.center().y() - 6), checkSize));
     painter->drawPixmap(centredIn(place, zel::deviceIndependentSize(mark)).topLeft(), mark);
