@@ -12,17 +12,8 @@
 
 namespace {
 
-void enter(QWidget &widget)
-{
-    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void leave(QWidget &widget)
-{
-    QEvent event(QEvent::Leave);
-    QCoreApplication::sendEvent(&widget, &event);
-}
+using Pointer::enter;
+using Pointer::leave;
 
 /** An active window with two glowing buttons, each with a menu. */
 struct GlowingPair

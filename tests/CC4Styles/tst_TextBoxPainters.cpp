@@ -141,11 +141,7 @@ void compare(const QImage &actual, const QImage &wanted)
     }
 }
 
-void enter(QWidget &widget)
-{
-    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-    QCoreApplication::sendEvent(&widget, &event);
-}
+using Pointer::enter;
 
 void giveFocus(QWidget &widget)
 {

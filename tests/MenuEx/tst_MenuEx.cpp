@@ -236,11 +236,9 @@ void tst_MenuEx::pointerOnMenu()
 {
     CMenuEx menu;
     QVERIFY(!menu.cursorOnMenu());
-    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-    QCoreApplication::sendEvent(&menu, &enter);
+    Pointer::enter(menu);
     QVERIFY(menu.cursorOnMenu());
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(&menu, &leave);
+    Pointer::leave(menu);
     QVERIFY(!menu.cursorOnMenu());
 }
 

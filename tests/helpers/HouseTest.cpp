@@ -1,6 +1,7 @@
 #include "helpers/HouseTest.h"
 
 #include <QApplication>
+#include <QEnterEvent>
 #include <QLibraryInfo>
 
 namespace {
@@ -57,6 +58,18 @@ bool Picture::paintsOutside(const QImage &image, const QRect &inside)
 QString Picture::colorAt(const QImage &image, int x, int y)
 {
     return image.pixelColor(x, y).name(QColor::HexArgb);
+}
+
+void Pointer::enter(QWidget &widget)
+{
+    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void Pointer::leave(QWidget &widget)
+{
+    QEvent event(QEvent::Leave);
+    QCoreApplication::sendEvent(&widget, &event);
 }
 
 void HouseTestMain::prepare()

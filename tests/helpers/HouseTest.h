@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <QTest>
+#include <QWidget>
 
 /** Base of the tests. A warning that was not announced fails the test function it came in. */
 class HouseTest : public QObject
@@ -45,6 +46,14 @@ bool paintsOutside(const QImage &image, const QRect &inside);
 QString colorAt(const QImage &image, int x, int y);
 
 } // namespace Picture
+
+namespace Pointer {
+
+/** Tells a widget that the mouse has come in, or gone, as the window system would. */
+void enter(QWidget &widget);
+void leave(QWidget &widget);
+
+} // namespace Pointer
 
 namespace HouseTestMain {
 /** Called before the application object is made: takes Qt's style plugins away when the environment says so. */
