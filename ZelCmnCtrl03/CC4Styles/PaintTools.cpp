@@ -99,6 +99,12 @@ void fillPoint(QPainter *painter, const QPoint &point, const QColor &color)
     painter->fillRect(QRect(point, QSize(1, 1)), color);
 }
 
+void fillTiled(QPainter *painter, const QRect &rect, const QPixmap &tile)
+{
+    if (!rect.isEmpty() && !tile.isNull())
+        painter->fillRect(rect, tiledBrush(tile));
+}
+
 void drawVerticalGradient(QPainter *painter, const QRect &rect, const QColor &top, const QColor &bottom)
 {
     const QString key = QString::number(rect.width()) + QLatin1Char('x') + QString::number(rect.height()) +

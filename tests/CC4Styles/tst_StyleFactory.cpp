@@ -25,6 +25,8 @@ class tst_StyleFactory : public HouseTest
 
 private Q_SLOTS:
     void oneObjectForAllAskers();
+    void blueStyleBecomesTheApplications();
+    void headerStyleDoesNot();
     void unknownKindsGiveNothing_data();
     void unknownKindsGiveNothing();
     void buttonsShareOneStyle();
@@ -51,11 +53,42 @@ void tst_StyleFactory::oneObjectForAllAskers()
     CC4StyleFactory::releaseStyle(mainStyle);
 }
 
+void tst_StyleFactory::blueStyleBecomesTheApplications()
+{
+    constexpr auto blueStyle = CC4StyleFactory::BlueScrollStyle;
+    const QPointer<QStyle> main = CC4StyleFactory::getStyle(mainStyle);
+    QStyle *blue = CC4StyleFactory::getStyle(blueStyle);
+    QVERIFY(dynamic_cast<CBlueScrollBarStyle *>(blue) != nullptr);
+    QCOMPARE(QApplication::style(), blue);
+    QVERIFY(main.isNull());
+    QCOMPARE(CC4StyleFactory::getStyle(blueStyle), blue);
+    CC4StyleFactory::releaseStyle(blueStyle);
+    CC4StyleFactory::releaseStyle(blueStyle);
+    QCOMPARE(QApplication::style(), blue);
+    CC4StyleFactory::releaseStyle(mainStyle);
+}
+
+void tst_StyleFactory::headerStyleDoesNot()
+{
+    constexpr auto headerStyle = CC4StyleFactory::TBWStyle;
+    QStyle *main = CC4StyleFactory::getStyle(mainStyle);
+    auto *header = qobject_cast<CTBWStyle *>(CC4StyleFactory::getStyle(headerStyle));
+    QVERIFY(header != nullptr);
+    QCOMPARE(CC4StyleFactory::getStyle(headerStyle), header);
+    QCOMPARE(QApplication::style(), main);
+    CC4StyleFactory::releaseStyle(headerStyle);
+    CC4StyleFactory::releaseStyle(headerStyle);
+    QStyle *second = CC4StyleFactory::getStyle(headerStyle);
+    QVERIFY(second != header); // forgotten, and not destroyed
+    header->dispose();
+    delete second; // as whoever set it on a widget would
+    CC4StyleFactory::releaseStyle(headerStyle);
+    CC4StyleFactory::releaseStyle(mainStyle);
+}
+
 void tst_StyleFactory::unknownKindsGiveNothing_data()
 {
     QTest::addColumn<int>("kind");
-    QTest::newRow("blue scroll bars, not there yet") << 1;
-    QTest::newRow("header style, not there yet") << 2;
     QTest::newRow("three") << 3;
     QTest::newRow("negative") << -1;
 }

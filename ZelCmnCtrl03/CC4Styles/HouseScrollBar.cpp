@@ -1,0 +1,82 @@
+// The main style's scroll bar: a light groove, arrow buttons at its ends, a slider of coloured strips.
+#include "CC4Styles/CommonControlStyle.h"
+
+#include "CC4Styles/ScrollBarPainter.h"
+
+#include <QPainter>
+#include <QStyleOptionSlider>
+
+namespace {
+
+using ScrollBarPainter::ScrollBar;
+
+// One colour per line of pixels across the bar's thickness: from the left edge of a vertical bar, from the lower edge
+// of a horizontal one.
+constexpr QRgb grooveStrip[] = {0xCFCFCF, 0xF0F0F0, 0xE2E2E2, 0xE2E2E2, 0xE4E4E3, 0xE5E4E5, 0xE7E7E6,
+                                0xE9E9E9, 0xEBEAEB, 0xEDECED, 0xF0F0EF, 0xF1F2F2, 0xF5F4F4, 0xF6F6F7,
+                                0xF8F8F9, 0xFBFAFB, 0xFDFDFC, 0xFEFEFE, 0xFEFEFE, 0xE3E3E3, 0xCFCFCF};
+constexpr QRgb blueStrip[] = {0x57A2C0, 0x8DCBEA, 0x64B2D7, 0x65B3D9, 0x66B9DA, 0x69B8DB, 0x69B8DB, 0x6BB9DE, 0x6CBEE1,
+                              0x7BC2E5, 0x7CCBE6, 0x7DCEE8, 0x82CEEB, 0x85CCED, 0x86CEED, 0xAFE1F4, 0x5B9AB5};
+constexpr QRgb greyStrip[] = {0xC7C7C7, 0xE1E1E1, 0xD4D4D4, 0xD4D4D4, 0xD6D6D6, 0xD6D6D6, 0xD7D7D7, 0xD8D8D8, 0xD8D8D8,
+                              0xDDDDDD, 0xDEDEDE, 0xDFDFDF, 0xDFDFDF, 0xE1E1E1, 0xE2E2E2, 0xECECEC, 0xC7C7C7};
+
+constexpr int sliderInset = 2; // of the slider's strips from the edge of the bar
+constexpr int edgeShade = 115; // percent of the base colour's brightness
+
+template <std::size_t Lines>
+void drawStrips(QPainter *painter, const QRect &rect, const QRgb (&strip)[Lines], int first, bool horizontal)
+{
+    const int last = static_cast<int>(Lines) - 1;
+    for (int line = 0; line <= last; ++line) {
+        const QRect place = horizontal ? QRect(rect.left(), rect.top() + first + last - line, rect.width(), 1)
+                                       : QRect(rect.left() + first + line, rect.top(), 1, rect.height());
+        painter->fillRect(place, QColor(strip[line]));
+    }
+}
+
+void paintGroove(QPainter *picture, const QRect &area, const ScrollBar &bar)
+{
+    ScrollBarPainter::paintGround(picture, area, bar);
+    drawStrips(picture, area, grooveStrip, 0, bar.horizontal);
+    const QColor shade = bar.option->palette.color(QPalette::Base).darker(edgeShade);
+    const QRect edge(area.topLeft(), bar.horizontal ? QSize(area.width(), 1) : QSize(1, area.height()));
+    picture->fillRect(edge, QBrush(shade, Qt::Dense4Pattern));
+}
+
+void paintBackArrow(QPainter *picture, const QRect &area, const ScrollBar &bar)
+{
+    if (bar.horizontal)
+        ScrollBarPainter::paintBlueArrowLeft(picture, area);
+    else
+        ScrollBarPainter::paintBlueArrowTop(picture, area);
+}
+
+void paintForwardArrow(QPainter *picture, const QRect &area, const ScrollBar &bar)
+{
+    if (bar.horizontal)
+        ScrollBarPainter::paintBlueArrowRight(picture, area);
+    else
+        ScrollBarPainter::paintBlueArrowBottom(picture, area);
+}
+
+void paintSlider(QPainter *picture, const QRect &area, const ScrollBar &bar)
+{
+    drawStrips(picture, area, bar.enabled ? blueStrip : greyStrip, sliderInset, bar.horizontal);
+    ScrollBarPainter::paintHouseCaps(picture, area, bar);
+}
+
+constexpr ScrollBarPainter::Look houseLook = {
+    {"scrollbar_groove", paintGroove},
+    {"scrollbar_subline", paintBackArrow},
+    {"scrollbar_addline", paintForwardArrow},
+    {"scrollbar_slider", paintSlider},
+    false,
+};
+
+} // namespace
+
+void CCommonControlStyle::drawScrollBar(const QStyleOptionComplex *option, QPainter *painter,
+                                        const QWidget *widget) const
+{
+    ScrollBarPainter::draw(painter, houseLook, option, proxy(), widget);
+}
