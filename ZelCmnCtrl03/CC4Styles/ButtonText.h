@@ -6,6 +6,6 @@ class QPalette;
 namespace ButtonText {
 
 /** Sets the ButtonText brushes of the three colour groups by the button's look. */
-void setColours(QPalette &palette, const CButtonEx *button);
+void setColors(QPalette &palette, const CButtonEx *button);
 
 } // namespace ButtonText

@@ -3,6 +3,7 @@
 
 #include "CC4Styles/PaintTools.h"
 #include "UiGraphics.h"
+#include "include/qt_compat.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -21,7 +22,7 @@ void CCommonControlStyle::drawComboBox(const QStyleOptionComplex *option, QPaint
     const QRect rect = option->rect;
     const QBrush face = painter->brush();
     const QSize size(rect.width(), boxHeight);
-    const auto draw = [&face](QPainter *picture, const QRect &area) {
+    const auto draw = [&face, option](QPainter *picture, const QRect &area) {
         const QColor border = UIGGetColor(QStringLiteral("UIGCLR_COMPLEX_CACHE_PAINTER"));
         picture->fillRect(area, Qt::white);
         picture->fillRect(area, face);
@@ -29,11 +30,20 @@ void CCommonControlStyle::drawComboBox(const QStyleOptionComplex *option, QPaint
         PaintTools::fillLine(picture, area.bottomLeft(), area.bottomRight(), border);
         PaintTools::fillLine(picture, area.topLeft(), area.bottomLeft(), border);
         PaintTools::fillLine(picture, area.topRight(), area.bottomRight(), border);
-        picture->drawPixmap(QPoint(area.width(), 0) + arrowFromTopRight,
-                            UIGGetPixmap(QStringLiteral("dropdown-menu-arrow.png"), PaintTools::deviceRatio(picture)));
+        const QPixmap arrow = UIGGetPixmap(QStringLiteral("dropdown-menu-arrow.png"), PaintTools::deviceRatio(picture));
+        const QRect place(QPoint(area.width(), 0) + arrowFromTopRight, zel::deviceIndependentSize(arrow));
+        picture->drawPixmap(visualRect(option->direction, area, place).topLeft(), arrow);
     };
-    const QString key = PaintTools::stateKey(QLatin1String("combobox"), option, rect.size());
-    PaintTools::drawCachedPicture(painter, rect.topLeft(), size, key, draw);
+    QString key = PaintTools::stateKey(QLatin1String("combobox"), option, rect.size());
+    if (option->direction == Qt::RightToLeft)
+        key += QLatin1String("-mirrored");
+    // The face that the caller chose is part of the picture. Only a plain colour can be part of a key.
+    if (face.style() == Qt::NoBrush)
+        PaintTools::drawCachedPicture(painter, rect.topLeft(), size, key, draw);
+    else if (face.style() == Qt::SolidPattern)
+        PaintTools::drawCachedPicture(painter, rect.topLeft(), size, key + face.color().name(QColor::HexArgb), draw);
+    else
+        PaintTools::drawFoundPicture(painter, rect.topLeft(), size, key + QLatin1String("-textured"), draw);
 }
 
 void CCommonControlStyle::drawComboBoxLabel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const

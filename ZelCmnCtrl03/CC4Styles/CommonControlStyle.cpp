@@ -51,7 +51,7 @@ constexpr PaletteEntry paletteEntries[] = {
 };
 
 // In the roles that the house palette sets; the others come from the platform's theme, and may change with it.
-bool hasHouseColours(const QPalette &palette, const QPalette &house)
+bool hasHouseColors(const QPalette &palette, const QPalette &house)
 {
     for (const PaletteEntry &entry : paletteEntries) {
         for (const auto group : {QPalette::Disabled, QPalette::Active, QPalette::Inactive})
@@ -98,7 +98,7 @@ void CCommonControlStyle::polish(QPalette &) {}
 void CCommonControlStyle::unpolish(QApplication *application)
 {
     // An application that has set a palette since keeps it.
-    if (m_bPaletteGiven && hasHouseColours(QApplication::palette(), standardPalette()))
+    if (m_bPaletteGiven && hasHouseColors(QApplication::palette(), standardPalette()))
         QApplication::setPalette(QPalette());
     m_bPaletteGiven = false;
     QProxyStyle::unpolish(application);
@@ -123,6 +123,7 @@ void CCommonControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOp
     case PE_FrameTabWidget: return drawFrameTabWidget(option, painter, widget);
     case PE_FrameTabBarBase: return drawFrameTabBarBase(option, painter, widget);
     case PE_FrameLineEdit: return drawFrameLineEdit(option, painter, widget);
+    case PE_PanelMenu: return; // the menu's gradient shows
     case PE_PanelButtonCommand: return drawPanelButtonCommand(option, painter, widget);
     case PE_PanelLineEdit: return drawPanelLineEdit(option, painter, widget);
     case PE_IndicatorArrowDown: return drawIndicatorArrowDown(option, painter);

@@ -58,6 +58,12 @@ public:
                     const QWidget *widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr, const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
+    /**
+     * The base's sizes, but that a combo box and a spin box are as high as this look draws them, and that a slider has
+     * the room for its handle and tick marks.
+     */
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl subControl,
                          const QWidget *widget = nullptr) const override;
 
@@ -174,6 +180,7 @@ private:
     void drawSpinBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
 
     int toolTipOpacity(const QWidget *widget) const;
+    bool drawsFor(const QWidget *widget) const;
     QRect spinBoxRect(const QStyleOptionComplex *option, SubControl subControl) const;
     QRect comboBoxRect(const QStyleOptionComplex *option, SubControl subControl, const QWidget *widget) const;
 

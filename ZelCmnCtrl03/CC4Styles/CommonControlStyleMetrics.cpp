@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QSlider>
 #include <QStyleOptionSpinBox>
 #include <QTextDocument> // Qt::mightBeRichText
 #include <QTextDocumentFragment>
@@ -18,14 +19,21 @@ namespace {
 
 // Pixels.
 constexpr int scrollBarExtra = 4;
+constexpr int scrollBarExtent = 21; // that strips and bitmaps are made for; the bases of today would be thinner
+constexpr int menuFrameWidth = 2;
 constexpr int comboBoxHeight = 18;
+constexpr int drawnComboBoxHeight = 21;
+constexpr int spinBoxHeight = 21; // where the buttons stand in their square
+constexpr int sliderRoom = 20;    // for the handle
+constexpr int sliderTickRoom = 8; // for it and a row of tick marks, on each side that has them
 constexpr QSize spinButton(16, 8);
 constexpr int spinButtonArea = 18;
 constexpr int widestToolTip = 400;
 constexpr int lowestToolTip = 26;
 constexpr QMargins toolTipMargins(7, 0, 7, 7);
+constexpr int pointerGap = 4; // from the pointer to a tip above it
 
-constexpr int gridLineColour = 0xEEEEFF; // the hint takes a colour as a number
+constexpr int gridLineColor = static_cast<int>(0xFFEEEEFF); // item views take the alpha too
 constexpr int opaque = 255;
 
 int textWidth(const QLabel *label)
@@ -35,16 +43,28 @@ int textWidth(const QLabel *label)
     return QFontMetrics(label->font()).size(0, plain).width();
 }
 
-// The size that Qt gave the tip was for another layout of its text, and the tip was placed with it.
+// The height that Qt placed the tip with was for another layout of its text.
 void keepOnScreen(QWidget *tip)
 {
     const QScreen *screen = tip->screen();
     if (screen == nullptr)
         return;
     const QRect area = screen->availableGeometry();
-    const int x = std::max(area.left(), std::min(tip->x(), area.right() + 1 - tip->width()));
-    const int y = std::max(area.top(), std::min(tip->y(), area.bottom() + 1 - tip->height()));
-    tip->move(x, y);
+    QRect place = tip->geometry();
+    place.moveLeft(std::max(area.left(), std::min(place.left(), area.right() + 1 - place.width())));
+    place.moveTop(std::max(area.top(), std::min(place.top(), area.bottom() + 1 - place.height())));
+    const int above = QCursor::pos().y() - pointerGap - place.height();
+    if (place.contains(QCursor::pos()) && above >= area.top())
+        place.moveTop(above);
+    tip->move(place.topLeft());
+}
+
+// The label is used again, and Qt places the next tip by the width that the label has before it is shown: never more
+// than the widest, and nothing of the last one may stay.
+void releaseToolTipWidth(QWidget *label)
+{
+    label->setMinimumWidth(0);
+    label->setMaximumWidth(widestToolTip);
 }
 
 void shapeToolTip(QLabel *label)
@@ -60,15 +80,13 @@ void shapeToolTip(QLabel *label)
         label->resize(widestToolTip, label->heightForWidth(widestToolTip));
         return;
     }
-    // The label is used again for the next tip: nothing of a long one may stay.
-    label->setMinimumWidth(0);
-    label->setMaximumWidth(QWIDGETSIZE_MAX);
+    releaseToolTipWidth(label);
     label->setWordWrap(false);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     label->resize(label->sizeHint());
 }
 
-QRect spinBoxSubControlRect(const QStyleOptionSpinBox *option, QStyle::SubControl subControl, int frameWidth)
+QRect leftToRightSpinBoxRect(const QStyleOptionSpinBox *option, QStyle::SubControl subControl, int frameWidth)
 {
     const QRect rect = option->rect;
     switch (subControl) {
@@ -80,13 +98,33 @@ QRect spinBoxSubControlRect(const QStyleOptionSpinBox *option, QStyle::SubContro
     }
 }
 
+// A font of its own may want more height than the look is made for.
+QSize spinBoxSize(const QSize &based, const QStyleOption *option)
+{
+    const int lowest = std::max(spinBoxHeight, option != nullptr ? option->fontMetrics.height() + 4 : 0);
+    return QSize(based.width(), std::min(based.height(), lowest));
+}
+
+QSize sliderSize(const QSize &based, const QStyleOption *option)
+{
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (slider == nullptr)
+        return based;
+    int room = sliderRoom;
+    for (const QSlider::TickPosition side : {QSlider::TicksAbove, QSlider::TicksBelow})
+        room += slider->tickPosition & side ? sliderTickRoom : 0;
+    return slider->orientation == Qt::Horizontal ? QSize(based.width(), std::max(based.height(), room))
+                                                 : QSize(std::max(based.width(), room), based.height());
+}
+
 } // namespace
 
 int CCommonControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
 {
     switch (metric) {
     case PM_ComboBoxFrameWidth: return 8;
-    case PM_ScrollBarExtent: return QProxyStyle::pixelMetric(metric, option, widget) + scrollBarExtra;
+    case PM_ScrollBarExtent:
+        return std::max(scrollBarExtent, QProxyStyle::pixelMetric(metric, option, widget) + scrollBarExtra);
     case PM_TabBarTabHSpace: return 20;
     case PM_TabBarTabVSpace: return 5;
     case PM_TabBarBaseHeight: return 10;
@@ -96,6 +134,8 @@ int CCommonControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *opt
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight: return 18;
     case PM_ListViewIconSize: return 90;
+    // Not every base leaves room for the frame of menus.
+    case PM_MenuPanelWidth: return std::max(menuFrameWidth, QProxyStyle::pixelMetric(metric, option, widget));
     default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
 }
@@ -106,7 +146,7 @@ int CCommonControlStyle::styleHint(StyleHint hint, const QStyleOption *option, c
     switch (hint) {
     case SH_EtchDisabledText: return 1;
     case SH_DitherDisabledText: return 0;
-    case SH_Table_GridLineColor: return gridLineColour;
+    case SH_Table_GridLineColor: return gridLineColor;
     case SH_UnderlineShortcut: return 1;
     case SH_ItemView_ShowDecorationSelected: return 1;
     case SH_ToolTipLabel_Opacity: return toolTipOpacity(widget);
@@ -128,14 +168,36 @@ int CCommonControlStyle::toolTipOpacity(const QWidget *widget) const
 
 bool CCommonControlStyle::eventFilter(QObject *object, QEvent *event)
 {
-    const bool sized = event->type() == QEvent::Resize || event->type() == QEvent::Show;
-    auto *label = sized && !m_bShapingToolTip ? qobject_cast<QLabel *>(object) : nullptr;
-    if (label != nullptr && label->style()->proxy() == proxy()) {
+    auto *label = qobject_cast<QLabel *>(object);
+    if (label != nullptr && !m_bShapingToolTip && drawsFor(label)) {
         const QScopedValueRollback<bool> shaping(m_bShapingToolTip, true);
-        shapeToolTip(label);
-        keepOnScreen(label);
+        if (event->type() == QEvent::Hide)
+            releaseToolTipWidth(label);
+        else if (event->type() == QEvent::Resize || event->type() == QEvent::Show) {
+            shapeToolTip(label);
+            keepOnScreen(label);
+        }
     }
     return QProxyStyle::eventFilter(object, event);
+}
+
+// Under a style sheet the style of a widget is the sheet's, which stands on this one.
+bool CCommonControlStyle::drawsFor(const QWidget *widget) const
+{
+    const QStyle *style = widget->style();
+    return style->proxy() == proxy() || style->inherits("QStyleSheetStyle");
+}
+
+QSize CCommonControlStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                                            const QWidget *widget) const
+{
+    const QSize based = QProxyStyle::sizeFromContents(type, option, size, widget);
+    switch (type) {
+    case CT_ComboBox: return QSize(based.width(), drawnComboBoxHeight);
+    case CT_SpinBox: return spinBoxSize(based, option);
+    case CT_Slider: return sliderSize(based, option);
+    default: return based;
+    }
 }
 
 QRect CCommonControlStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
@@ -156,7 +218,7 @@ QRect CCommonControlStyle::spinBoxRect(const QStyleOptionComplex *option, SubCon
     const auto *spinBox = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
     if (spinBox == nullptr)
         return QRect();
-    const QRect rect = spinBoxSubControlRect(spinBox, subControl, proxy()->pixelMetric(PM_DefaultFrameWidth));
+    const QRect rect = leftToRightSpinBoxRect(spinBox, subControl, proxy()->pixelMetric(PM_DefaultFrameWidth));
     return rect.isNull() ? rect : visualRect(option->direction, option->rect, rect);
 }
 

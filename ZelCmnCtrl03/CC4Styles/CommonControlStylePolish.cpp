@@ -23,7 +23,7 @@ void polishPushButton(QPushButton *button)
 {
     QPalette palette = button->palette();
     if (const auto *houseButton = qobject_cast<const CButtonEx *>(button))
-        ButtonText::setColours(palette, houseButton);
+        ButtonText::setColors(palette, houseButton);
     button->setPalette(palette);
 }
 

@@ -11,6 +11,7 @@ void CCommonControlStyle::drawHeader(const QStyleOption *option, QPainter *paint
     const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option);
     if (header == nullptr)
         return;
+    // The base draws the arrow once more, over the section. This one shows where a base draws none.
     if (header->sortIndicator != QStyleOptionHeader::None) {
         QStyleOptionHeader arrow = *header;
         arrow.rect = proxy()->subElementRect(SE_HeaderArrow, option, widget);

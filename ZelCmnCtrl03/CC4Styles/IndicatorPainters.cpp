@@ -36,7 +36,7 @@ struct Indicator
     const char *checkedBitmaps; // end of the bitmap's name when checked
     const char *pressedBitmap;  // painted over the others; null for none
     QPoint bitmapPlace;
-    QMargins fit; // taken from the rectangle that the picture is fitted into
+    QMargins trim; // taken off the rectangle; the picture is fitted into the rest
 };
 
 const Indicator checkBox{"checkbox",   "Checkbox",          "Checked", "CheckboxActivePressed.png",
@@ -70,7 +70,7 @@ void drawIndicator(const Indicator &indicator, const QStyleOption *option, QPain
             picture->drawPixmap(indicator.bitmapPlace, UIGGetPixmap(QLatin1String(indicator.pressedBitmap), ratio));
     };
     const QString key = PaintTools::stateKey(QLatin1String(indicator.cacheName), option, option->rect.size());
-    PaintTools::drawFittedPicture(painter, option->rect.marginsRemoved(indicator.fit), option->rect.size(), key, draw);
+    PaintTools::drawFittedPicture(painter, option->rect.marginsRemoved(indicator.trim), option->rect.size(), key, draw);
 }
 
 } // namespace
@@ -85,8 +85,8 @@ void CCommonControlStyle::drawIndicatorRadioButton(const QStyleOption *option, Q
     drawIndicator(radioButton, option, painter);
 }
 
-// A triangle of shrinking rows at the right end of the rectangle. Its height counts from the painter's origin: callers
-// give rectangles that are placed for it.
+// A triangle of shrinking rows at the right end of the rectangle. Its height counts from the painter's origin and not
+// from the top of the rectangle: that is the look, and marks in low rectangles stand higher for it.
 void CCommonControlStyle::drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const
 {
     QColor color = UIGGetColor(QStringLiteral("UIGCLR_INDICATOR_ARROW"));

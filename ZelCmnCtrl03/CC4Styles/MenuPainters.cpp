@@ -16,7 +16,7 @@ namespace {
 constexpr int textFlags =
     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip | Qt::TextShowMnemonic;
 constexpr int narrowestIconColumn = 20;
-constexpr QSize checkSize(13, 13);
+constexpr QSize checkPlace(13, 13); // the mark is centred on it
 constexpr QSize iconSize(15, 15);
 constexpr int labelPixels = 12;
 
@@ -58,20 +58,25 @@ void drawCheckMark(QPainter *painter, const MenuItem &item)
         item.option->checked ? QStringLiteral("CheckboxActiveChecked.png") : QStringLiteral("CheckboxActive.png");
     const QPixmap mark = UIGGetPixmap(name, PaintTools::deviceRatio(painter));
     const QRect rect = item.option->rect;
-    const QRect place = item.visual(QRect(QPoint(rect.left() + 7, rect.center().y() - 6), checkSize));
+    const QRect place = item.visual(QRect(QPoint(rect.left() + 7, rect.center().y() - 6), checkPlace));
     painter->drawPixmap(centredIn(place, zel::deviceIndependentSize(mark)).topLeft(), mark);
 }
 
-void drawIcon(QPainter *painter, const MenuItem &item)
+// Whatever the size of the pixmap, it fills its place.
+void drawIcon(QPainter *painter, const MenuItem &item, int smallIcon)
 {
     if (item.option->icon.isNull())
         return;
     const QIcon::Mode enabledMode = item.selected ? QIcon::Active : QIcon::Normal;
+    const qreal ratio = PaintTools::deviceRatio(painter);
+    const QPixmap pixmap =
+        item.option->icon.pixmap(QSize(smallIcon, smallIcon) * ratio, item.enabled ? enabledMode : QIcon::Disabled,
+                                 item.option->checked ? QIcon::On : QIcon::Off);
     const QRect rect = item.option->rect;
     const QRect column = item.visual(QRect(rect.x(), rect.y(), item.iconColumn, rect.height()));
-    item.option->icon.paint(painter, centredIn(column, iconSize), Qt::AlignCenter,
-                            item.enabled ? enabledMode : QIcon::Disabled,
-                            item.option->checked ? QIcon::On : QIcon::Off);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    painter->drawPixmap(centredIn(column, iconSize), pixmap);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
 }
 
 void drawString(QPainter *painter, const MenuItem &item, const QRect &rect, const QString &text)
@@ -93,16 +98,16 @@ void drawTexts(QPainter *painter, const MenuItem &item)
     const int start = item.iconColumn + 5;
     const QRect place(rect.x() + start, rect.y() + 2,
                       rect.width() - start - zel::reservedShortcutWidth(item.option) - 14, rect.height() - 4);
-    const int tab = static_cast<int>(item.option->text.indexOf(QLatin1Char('\t')));
+    const QString label = item.option->text.section(QLatin1Char('\t'), 0, 0);
     painter->save();
     // The shortcut in the painter's font, the label in the menu's.
-    if (tab >= 0)
+    if (label.size() < item.option->text.size())
         drawString(painter, item, item.visual(QRect(place.topRight(), rect.bottomRight())),
-                   item.option->text.mid(tab + 1));
+                   item.option->text.mid(label.size() + 1));
     QFont font = UIGGetFont(labelPixels, -1, false);
     font.setBold(item.option->menuItemType == QStyleOptionMenuItem::DefaultItem);
     painter->setFont(font);
-    drawString(painter, item, item.visual(place), item.option->text.left(tab));
+    drawString(painter, item, item.visual(place), label);
     painter->restore();
 }
 
@@ -125,7 +130,7 @@ void CCommonControlStyle::drawMenuItem(const QStyleOption *option, QPainter *pai
         painter->fillRect(rect.left(), rect.top() + 2, rect.width(), rect.height() - 5,
                           UIGGetColor(QStringLiteral("UIGCLR_MENU_SELECTED_COLOR")));
     drawCheckMark(painter, item);
-    drawIcon(painter, item);
+    drawIcon(painter, item, proxy()->pixelMetric(PM_SmallIconSize, option, widget));
     drawTexts(painter, item);
     if (itemOption->menuItemType == QStyleOptionMenuItem::SubMenu)
         drawSubMenuArrow(itemOption, painter, widget);

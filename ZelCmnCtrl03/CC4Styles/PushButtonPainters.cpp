@@ -227,12 +227,12 @@ void setWhiteLabel(QPalette &palette, const QString &disabledKey)
     setButtonText(palette, UIGGetColor(QStringLiteral("UIGCLR_WHITE")), UIGGetColor(disabledKey));
 }
 
-void setLabelColours(QPalette &palette, const CButtonEx *button)
+void setLabelColors(QPalette &palette, const CButtonEx *button)
 {
     if (button->buttonStyle() == CButtonEx::BSEX_Glowing)
         setWhiteLabel(palette, QStringLiteral("UIGCLR_WHITE")); // over the glow, whatever its text colour
     else
-        ButtonText::setColours(palette, button);
+        ButtonText::setColors(palette, button);
 }
 
 int textOffsetBesideImage(CButtonEx::CButtonStyles look, const QRect &rect)
@@ -243,7 +243,7 @@ int textOffsetBesideImage(CButtonEx::CButtonStyles look, const QRect &rect)
 
 } // namespace
 
-void ButtonText::setColours(QPalette &palette, const CButtonEx *button)
+void ButtonText::setColors(QPalette &palette, const CButtonEx *button)
 {
     switch (button->buttonStyle()) {
     case CButtonEx::BSEX_Normal: return setBlackLabel(palette);
@@ -404,7 +404,7 @@ void CCommonControlStyle::drawHouseButtonLabel(const QStyleOptionButton *option,
     painter->setFont(font); // and it stays: this is the last that is painted of a button
 
     QStyleOptionButton label = *option;
-    setLabelColours(label.palette, button);
+    setLabelColors(label.palette, button);
     if (look == CButtonEx::BSEX_Tertiary) {
         QProxyStyle::drawControl(CE_PushButtonLabel, &label, painter, button);
         return;

@@ -15,8 +15,8 @@
 namespace {
 
 constexpr int standardTickCount = 15;
-constexpr int percents = 100;   // an interval of tick marks counts as so many of these, whatever the range is
-constexpr int tickMargin = 5;   // from the ends of the slider to the outermost tick marks
+constexpr int tickUnits = 100; // that a horizontal slider is divided into, whatever its range: tickInterval counts them
+constexpr int tickMargin = 5;  // from the ends of the slider to the outermost tick marks
 constexpr int tickDistance = 2; // from the slider's edge; a long tick mark is one pixel nearer
 
 // Percent of the colour's brightness.
@@ -27,22 +27,6 @@ constexpr int handleBottomShade = 105;
 // Where the image of the handle is drawn, from the handle's own place.
 constexpr int dropWithTicksBelow = 2;
 constexpr int liftWithTicksAbove = 1;
-
-template <std::size_t N>
-void drawLines(QPainter *painter, const QRect &rect, const SliderPixels::Line (&lines)[N])
-{
-    const auto column = [&rect](SliderPixels::Place x) {
-        return (x.isFromFarEdge ? rect.right() : rect.left()) + x.distance;
-    };
-    const auto row = [&rect](SliderPixels::Place y) {
-        return (y.isFromFarEdge ? rect.bottom() : rect.top()) + y.distance;
-    };
-    // Rectangles: they stay whole pixels on every device pixel ratio. In a rectangle that is too small for it a line is
-    // empty.
-    for (const SliderPixels::Line &line : lines)
-        painter->fillRect(QRect(QPoint(column(line.x1), row(line.y1)), QPoint(column(line.x2), row(line.y2))),
-                          UIGGetColor(QLatin1String(line.colorKey)));
-}
 
 bool hasTicksAbove(const QStyleOptionSlider *option)
 {
@@ -85,9 +69,9 @@ QPixmap partPicture(const QPainter *target, const QSize &size, const QStyleOptio
 void drawGroove(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option)
 {
     if (option->orientation == Qt::Horizontal)
-        drawLines(painter, rect, SliderPixels::horizontalGroove);
+        PixelTable::draw(painter, rect, SliderPixels::horizontalGroove);
     else
-        drawLines(painter, rect, SliderPixels::verticalGroove);
+        PixelTable::draw(painter, rect, SliderPixels::verticalGroove);
 }
 
 // Points to the left or to the right.
@@ -118,7 +102,7 @@ QBrush verticalHandleFill(const QStyleOptionSlider *option, const QRect &rect)
 void drawHandle(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option)
 {
     if (option->orientation == Qt::Horizontal)
-        return drawLines(painter, rect, SliderPixels::horizontalHandle);
+        return PixelTable::draw(painter, rect, SliderPixels::horizontalHandle);
     painter->setPen(Qt::NoPen);
     painter->setBrush(verticalHandleFill(option, rect));
     painter->drawPolygon(verticalHandleShape(rect, hasTicksAbove(option) && !hasTicksBelow(option)));
@@ -165,7 +149,7 @@ std::vector<int> tickPlaces(const QStyleOptionSlider *option)
         return evenlySpreadTicks(rect.top() + tickMargin, rect.bottom() - tickMargin, standardTickCount);
     const int first = rect.left() + tickMargin;
     const int last = rect.right() - tickMargin;
-    const int count = option->tickInterval == 0 ? standardTickCount : percents / option->tickInterval;
+    const int count = option->tickInterval == 0 ? standardTickCount : tickUnits / option->tickInterval;
     if (count <= 0)
         return {};
     return count % 2 == 0 ? evenlySpreadTicks(first, last, count) : centredTicks(first, last, count);

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <QTabBar>
+#include <qdrawutil.h>
 
 namespace {
 
@@ -240,16 +241,16 @@ void CCommonControlStyle::drawTabBarTabShape(const QStyleOption *option, QPainte
     const bool enabled = option->state.testFlag(State_Enabled);
     const bool selected = option->state.testFlag(State_Selected) || tabOption->position == QStyleOptionTab::OnlyOneTab;
     const QRect rect = option->rect.adjusted(2, 0, -3, 0); // a gap of five pixels between neighbours
-    const StandingTab tab(rect, tabOption->shape, option->direction == Qt::RightToLeft);
-    const TabLines lines(tab, proxy()->pixelMetric(PM_TabBarBaseOverlap, option, widget));
+    const StandingTab standing(rect, tabOption->shape, option->direction == Qt::RightToLeft);
+    const TabLines lines(standing, proxy()->pixelMetric(PM_TabBarBaseOverlap, option, widget));
 
     painter->save();
-    const QRect body = QRect(lines.topStart + tab.down() + tab.left(), lines.rightEnd).normalized();
+    const QRect body = QRect(lines.topStart + standing.down() + standing.left(), lines.rightEnd).normalized();
     if (enabled && selected && body.isValid())
         painter->fillRect(body, painter->brush());
-    drawOutline(painter, tab, lines);
-    drawFace(painter, rect, tab, lines, selected);
-    drawBaseLine(painter, tab, selected);
+    drawOutline(painter, standing, lines);
+    drawFace(painter, rect, standing, lines, selected);
+    drawBaseLine(painter, standing, selected);
     painter->restore();
 }
 
@@ -281,10 +282,12 @@ void CCommonControlStyle::drawTabBarTabLabel(const QStyleOption *option, QPainte
     if (!tab->icon.isNull()) {
         const int small = proxy()->pixelMetric(PM_SmallIconSize, option, widget);
         const QSize size = tab->iconSize.isValid() ? tab->iconSize : QSize(small, small);
+        const QIcon::Mode mode = enabled ? QIcon::Normal : QIcon::Disabled;
+        const QSize real = tab->icon.actualSize(size, mode, QIcon::Off);
         const QRect place = tab->text.isEmpty()
-                                ? alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect)
-                                : QRect(QPoint(rect.left() + 6, rect.center().y() - size.height() / 2), size);
-        tab->icon.paint(painter, place, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled, QIcon::Off);
+                                ? alignedRect(Qt::LeftToRight, Qt::AlignCenter, real, rect)
+                                : QRect(QPoint(rect.left() + 6, rect.center().y() - real.height() / 2), real);
+        tab->icon.paint(painter, place, Qt::AlignCenter, mode, QIcon::Off);
         rect.setLeft(rect.left() + size.width() + 4);
     }
     const QPalette::ColorRole role = selected ? QPalette::Highlight : QPalette::WindowText;
@@ -342,7 +345,7 @@ void CCommonControlStyle::drawFrameTabWidget(const QStyleOption *option, QPainte
     if (frame == nullptr)
         return;
     if (!isRounded(frame->shape)) {
-        QCommonStyle::drawPrimitive(PE_FrameTabWidget, option, painter, widget);
+        qDrawWinPanel(painter, option->rect, option->palette);
         return;
     }
     const QColor border = UIGGetColor(QStringLiteral("UIGCLR_FRAME_TABBORDER"));

@@ -26,7 +26,7 @@ void CCommonControlStyle::drawTransparentTextBox(const QStyleOption *option, QPa
     };
     drawPass(box->isMouseOver() ? TextBoxPixels::hoveredAlphas : TextBoxPixels::restingAlphas);
     if (box->isFocussed())
-        drawPass(TextBoxPixels::focussedAlphas); // over the first pass, which shines through
+        drawPass(TextBoxPixels::focussedAlphas); // over the first pass, whose lines shine through
 }
 
 void CCommonControlStyle::drawFrameLineEdit(const QStyleOption *option, QPainter *painter, const QWidget *widget) const

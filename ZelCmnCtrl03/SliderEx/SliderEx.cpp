@@ -96,7 +96,7 @@ void CSliderEx::mousePressEvent(QMouseEvent *event)
     }
     setFocus(Qt::MouseFocusReason);
     setSliderPosition(pixelPosToRangeValue(zel::localPosition(event) - clickOffset));
-    // The handle is under the pointer now, so this begins an ordinary drag.
+    // Where the handle is under the pointer now, this begins an ordinary drag.
     QSlider::mousePressEvent(event);
 }
 

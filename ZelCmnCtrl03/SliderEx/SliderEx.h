@@ -22,7 +22,7 @@ class QStyleOptionSlider;
  *
  * A click is read from left to right, or from top to bottom. On a slider that runs the other way (a vertical one, whose
  * minimum is at the bottom, an inverted one, a horizontal one in a right-to-left layout) it so gives the value of the
- * mirrored place; dragging follows the pointer on all of them.
+ * mirrored place, and no drag begins unless the handle happens to have come under the pointer.
  */
 class ZELCMNCTRL_EXPORT CSliderEx : public QSlider
 {

@@ -76,5 +76,5 @@ private:
     bool m_bMouseOver = false;
     bool m_bFocussed = false;
     CLineEditStyles m_lineEditStyle = LineEditTransparent;
-    CLineEditColor m_lineEditColor = LineEditBlue;
+    CLineEditColor m_lineEditColor = LineEditBlue; // the palette has it too, until somebody sets another one
 };

@@ -22,8 +22,8 @@ namespace NormalInks {
 inline constexpr Ink border{"UIGCLR_LE_BORDER"};
 inline constexpr Ink topEdge{"UIGCLR_LE_TOPBORDER1"};
 inline constexpr Ink edge{"UIGCLR_LE_BOTTOMBORDER1"};
-inline constexpr Ink soft{"UIGCLR_LE_BACKGROUND", 0x64};
-inline constexpr Ink softer{"UIGCLR_LE_BACKGROUND", 0xC8};
+inline constexpr Ink softer{"UIGCLR_LE_BACKGROUND", 0x64};
+inline constexpr Ink soft{"UIGCLR_LE_BACKGROUND", 0xC8};
 inline constexpr Ink shade{"UIGCLR_LE_TOPBORDER2"};
 inline constexpr Ink stripe{"UIGCLR_LE_TOPBORDER2", 0x28};
 } // namespace NormalInks
@@ -56,25 +56,25 @@ inline constexpr Operation operations[] = {
     point(edge, left + 2, bottom - 2),
     point(edge, right - 2, bottom - 2),
 
-    point(soft, left + 1, top + 1),
-    point(soft, right - 1, top + 1),
-    point(soft, left + 1, bottom - 1),
-    point(soft, right - 1, bottom - 1),
-    point(soft, left + 1, top + 2),
-    point(soft, left + 2, top + 1),
-    point(soft, right - 1, top + 2),
-    point(soft, right - 2, top + 1),
-    point(soft, left + 1, bottom - 3),
-    point(soft, left + 2, bottom - 2),
-    point(soft, left + 3, bottom - 1),
-    point(soft, right - 1, bottom - 3),
-    point(soft, right - 2, bottom - 2),
-    point(soft, right - 3, bottom - 1),
+    point(softer, left + 1, top + 1),
+    point(softer, right - 1, top + 1),
+    point(softer, left + 1, bottom - 1),
+    point(softer, right - 1, bottom - 1),
+    point(softer, left + 1, top + 2),
+    point(softer, left + 2, top + 1),
+    point(softer, right - 1, top + 2),
+    point(softer, right - 2, top + 1),
+    point(softer, left + 1, bottom - 3),
+    point(softer, left + 2, bottom - 2),
+    point(softer, left + 3, bottom - 1),
+    point(softer, right - 1, bottom - 3),
+    point(softer, right - 2, bottom - 2),
+    point(softer, right - 3, bottom - 1),
 
-    point(softer, left + 1, bottom - 2),
-    point(softer, left + 2, bottom - 1),
-    point(softer, right - 1, bottom - 2),
-    point(softer, right - 2, bottom - 1),
+    point(soft, left + 1, bottom - 2),
+    point(soft, left + 2, bottom - 1),
+    point(soft, right - 1, bottom - 2),
+    point(soft, right - 2, bottom - 1),
 
     row(shade, left + 3, right - 3, top + 2),
     point(shade, left + 2, top + 3),
