@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Specimen.h"
+
+#include <QStyle>
+
+class QIcon;
+class QWidget;
+
+// For the makers.
+
+namespace gallery {
+
+/** What a style must add to an option, so that it shows the state. */
+QStyle::State forcedState(State state);
+
+/** The foreign style where there is one; on top of it the flags of a still specimen's state. */
+void applyStyles(QWidget *control, State state, const MakerSettings &settings);
+
+/** A sample image by its name, such as "print-white", for any density of screen. */
+QIcon sampleIcon(const QString &name);
+
+} // namespace gallery

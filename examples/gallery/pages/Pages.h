@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Specimen.h"
+
+namespace gallery {
+
+// Each in the source file of its name.
+PageDescription buttonsPage();
+PageDescription menusPage();
+PageDescription textBoxesPage();
+PageDescription slidersPage();
+
+/** The whole gallery. */
+const std::vector<PageDescription> &pages();
+
+/** Null for a name that no page has. */
+const PageDescription *findPage(const QString &name);
+
+} // namespace gallery
