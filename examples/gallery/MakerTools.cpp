@@ -17,13 +17,25 @@ QStyle::State forcedState(State state)
     }
 }
 
-void applyStyles(QWidget *control, State state, const MakerSettings &settings)
+void applyStyles(QWidget *control, State state, const MakerSettings &settings, QStyle::SubControls subControls)
 {
     if (settings.foreignStyle != nullptr)
         control->setStyle(settings.foreignStyle);
     const QStyle::State forced = forcedState(state);
-    if (forced != QStyle::State_None)
-        new StillStyle(control, forced); // belongs to the control
+    if (forced == QStyle::State_None)
+        return;
+    const bool isPointed = state == State::Hovered || state == State::Pressed;
+    new StillStyle(control, forced, isPointed ? subControls : QStyle::SC_None); // belongs to the control
+}
+
+void applyForeignStyle(QWidget *panel, const MakerSettings &settings)
+{
+    if (settings.foreignStyle == nullptr)
+        return;
+    panel->setStyle(settings.foreignStyle);
+    const QList<QWidget *> children = panel->findChildren<QWidget *>();
+    for (QWidget *child : children)
+        child->setStyle(settings.foreignStyle);
 }
 
 QIcon sampleIcon(const QString &name)

@@ -88,8 +88,12 @@ QWidget *makeControl(const Specimen &specimen, MakerSettings settings, QWidget *
             report(QStringLiteral("%1: %2").arg(caption, what));
         };
     QWidget *control = specimen.make(specimen.state, settings, parent);
-    if (isStill(specimen.state))
-        control->setFocusPolicy(Qt::NoFocus);
+    if (!isStill(specimen.state))
+        return control;
+    control->setFocusPolicy(Qt::NoFocus);
+    const QList<QWidget *> parts = control->findChildren<QWidget *>();
+    for (QWidget *part : parts)
+        part->setFocusPolicy(Qt::NoFocus);
     return control;
 }
 

@@ -1,5 +1,6 @@
 #include "Pages.h"
 
+#include "MenuBarWindow.h"
 #include "MenuBench.h"
 #include "MenuEntries.h"
 #include "Panels.h"
@@ -25,6 +26,28 @@ QWidget *makePicture(State state, const MakerSettings &settings, QWidget *parent
     return new Picture(menu.grab(), parent);
 }
 
+template <void (*fill)(QMenu *menu, const SampleTexts &texts)>
+QWidget *makeBarMenuPicture(State state, const MakerSettings &settings, QWidget *parent)
+{
+    QMenu menu;
+    if (settings.foreignStyle != nullptr)
+        menu.setStyle(settings.foreignStyle);
+    fill(&menu, settings.texts);
+    menu.setEnabled(settings.isEnabled);
+    menu.resize(menu.sizeHint());
+    if (state == State::Hovered)
+        menu.setActiveAction(menu.actions().constLast());
+    return new Picture(menu.grab(), parent);
+}
+
+QWidget *makeMenuBarWindow(State state, const MakerSettings &settings, QWidget *parent)
+{
+    auto *window = new MenuBarWindow(settings, parent);
+    if (state == State::Disabled)
+        window->setEnabled(false);
+    return window;
+}
+
 QWidget *makeBench(State, const MakerSettings &settings, QWidget *parent)
 {
     return new MenuBench(settings, parent);
@@ -41,20 +64,42 @@ const std::vector<Column> pictureStates = {
     {QStringLiteral("Disabled"), State::Disabled},
 };
 
+const std::vector<Row> barRows = {{QString(), makeMenuBarWindow}};
+const std::vector<Column> barStates = {
+    {QStringLiteral("Working"), State::Working},
+    {QStringLiteral("Disabled"), State::Disabled},
+};
+
+const std::vector<Row> barMenuRows = {
+    {QStringLiteral("Titles and shortcuts"), makeBarMenuPicture<fillFileMenu>},
+    {QStringLiteral("Checks and choices"), makeBarMenuPicture<fillViewMenu>},
+};
+
+const std::vector<Column> barMenuStates = {
+    {QStringLiteral("Open"), State::Normal},
+    {QStringLiteral("Entry hovered"), State::Hovered},
+};
+
 } // namespace
 
 PageDescription menusPage()
 {
-    return {QStringLiteral("menus"),
-            QStringLiteral("Menus"),
-            {
-                {QStringLiteral("Pictures"),
-                 QStringLiteral("Icons, a shortcut, a disabled entry, checked and unchecked entries and a submenu."),
-                 table(pictureRows, pictureStates)},
-                {QStringLiteral("Working controls"),
-                 QStringLiteral("The submenu of a CMenuEx opens by click or by key, not by waiting."),
-                 workingControls({{QString(), makeBench}})},
-            }};
+    return {
+        QStringLiteral("menus"),
+        QStringLiteral("Menus"),
+        {
+            {QStringLiteral("Pictures"),
+             QStringLiteral("Icons, a shortcut, a disabled entry, checked and unchecked entries and a submenu."),
+             table(pictureRows, pictureStates)},
+            {QStringLiteral("Working controls"),
+             QStringLiteral("The submenu of a CMenuEx opens by click or by key, not by waiting."),
+             workingControls({{QString(), makeBench}})},
+            {QStringLiteral("A window with a menu bar"),
+             QStringLiteral("Its menus are of Qt's own kind. One is longer than most screens, one is disabled."),
+             table(barRows, barStates)},
+            {QStringLiteral("Menus of the bar"), QStringLiteral("Titled separators, and choices of one of several."),
+             table(barMenuRows, barMenuStates)},
+        }};
 }
 
 } // namespace gallery

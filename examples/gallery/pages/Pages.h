@@ -9,6 +9,12 @@ PageDescription buttonsPage();
 PageDescription menusPage();
 PageDescription textBoxesPage();
 PageDescription slidersPage();
+PageDescription scrollBarsPage();
+PageDescription tabsPage();
+PageDescription listsPage();
+PageDescription splittersPage();
+PageDescription standardPage();
+PageDescription formPage();
 
 /** The whole gallery. */
 const std::vector<PageDescription> &pages();

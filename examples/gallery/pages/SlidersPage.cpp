@@ -85,7 +85,10 @@ const std::vector<Row> stateRows = {
     {QStringLiteral("Ticks on both sides"), houseSlider(QSlider::TicksBothSides)},
     {QStringLiteral("Knob image"), houseSlider(QSlider::NoTicks, true)},
     {QStringLiteral("QSlider"), plainSlider(Qt::Horizontal, QSlider::NoTicks)},
+    {QStringLiteral("QSlider, ticks on both sides"), plainSlider(Qt::Horizontal, QSlider::TicksBothSides)},
     {QStringLiteral("QSlider, vertical"), plainSlider(Qt::Vertical, QSlider::TicksAbove)},
+    {QStringLiteral("Vertical, ticks on the right"), plainSlider(Qt::Vertical, QSlider::TicksBelow)},
+    {QStringLiteral("Vertical, on both sides"), plainSlider(Qt::Vertical, QSlider::TicksBothSides)},
 };
 
 const std::vector<Column> states = {
