@@ -61,8 +61,8 @@ Maker sortedTree(Qt::SortOrder order)
         tree->topLevelItem(2)->setDisabled(true);
         tree->setSortingEnabled(true);
         tree->sortByColumn(0, order);
-        tree->expandItem(tree->topLevelItem(0));
-        tree->setCurrentItem(tree->topLevelItem(0)->child(0));
+        tree->expandItem(tree->topLevelItem(1)); // the photos, whichever order
+        tree->setCurrentItem(tree->topLevelItem(1)->child(0));
         return finish(tree, viewSize, state, settings);
     };
 }

@@ -46,7 +46,7 @@ QWidget *finish(QWidget *panel, const QSize &size, State state, const MakerSetti
     if (state == State::Disabled)
         panel->setEnabled(false);
     applyForeignStyle(panel, settings);
-    panel->resize(size);
+    panel->resize(size.expandedTo(panel->minimumSizeHint()));
     return panel;
 }
 
