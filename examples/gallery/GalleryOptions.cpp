@@ -1,6 +1,6 @@
 #include "GalleryOptions.h"
 
-#include "Specimens.h"
+#include "pages/Pages.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "Page.h"
+#include "pages/Pages.h"
 
 #include <QApplication>
 #include <QCheckBox>

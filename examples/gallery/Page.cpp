@@ -81,13 +81,34 @@ void addTray(QGridLayout *grid, const std::vector<Specimen> &specimens, const QS
         grid->addWidget(new TrayPanel(page), first + 1, 1, last - first + 1, columnCount);
 }
 
+QWidget *makeControl(const Specimen &specimen, MakerSettings settings, QWidget *parent)
+{
+    if (!specimen.column.isEmpty())
+        settings.report = [caption = specimen.column, report = settings.report](const QString &what) {
+            report(QStringLiteral("%1: %2").arg(caption, what));
+        };
+    QWidget *control = specimen.make(specimen.state, settings, parent);
+    if (!isStill(specimen.state))
+        return control;
+    control->setFocusPolicy(Qt::NoFocus);
+    const QList<QWidget *> parts = control->findChildren<QWidget *>();
+    for (QWidget *part : parts)
+        part->setFocusPolicy(Qt::NoFocus);
+    return control;
+}
+
 } // namespace
 
 SpecimenCell::SpecimenCell(const Specimen &specimen, const MakerSettings &settings, QWidget *parent)
     : QWidget(parent), m_specimen(specimen), m_control(makeControl(specimen, settings, this))
 {
-    setAttribute(Qt::WA_TransparentForMouseEvents, specimen.isStill());
+    setAttribute(Qt::WA_TransparentForMouseEvents, isStill(specimen.state));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+bool SpecimenCell::isSettled() const
+{
+    return !m_specimen.isSettled || m_specimen.isSettled(m_specimen.state, m_control);
 }
 
 QSize SpecimenCell::sizeHint() const

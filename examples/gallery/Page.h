@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControlMaker.h"
+#include "Specimen.h"
 
 #include <QWidget>
 
@@ -18,7 +18,8 @@ class SpecimenCell : public QWidget
 public:
     SpecimenCell(const Specimen &specimen, const MakerSettings &settings, QWidget *parent = nullptr);
 
-    bool isSettled() const { return gallery::isSettled(m_specimen, m_control); }
+    /** False while the control is on its way into its state. */
+    bool isSettled() const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -6,6 +6,28 @@
 
 namespace gallery {
 
+/** Of an order of prints: captions of fields, and what may be in them. */
+struct OrderTexts
+{
+    QString customer;
+    QString name;
+    QString somebody; // the name of a customer
+    QString copies;
+    QString size;
+    QString paper;
+    QString glossy;
+    QString matte;
+    QString border;
+    QString date;
+    QString delivery;
+    QString byPost;
+    QString inShop;
+    QString note;
+    QString options;
+    QString cancel;
+    QString tip; // one long sentence
+};
+
 /** What the specimens say, in one language. */
 struct SampleTexts
 {
@@ -20,6 +42,7 @@ struct SampleTexts
     QString email;
     QString folder;
     QString showDetails;
+    OrderTexts order;
 };
 
 const std::vector<SampleTexts> &allSampleTexts();

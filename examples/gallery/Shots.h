@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControlMaker.h"
+#include "Specimen.h"
 
 #include <QPixmap>
 #include <QStringList>

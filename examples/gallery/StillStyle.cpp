@@ -24,6 +24,11 @@ public:
         m_option = const_cast<QStyleOption *>(option);
         m_savedState = m_option->state;
         m_option->state |= style->m_forcedState;
+        m_complex = qstyleoption_cast<QStyleOptionComplex *>(m_option);
+        if (m_complex != nullptr) {
+            m_savedSubControls = m_complex->activeSubControls;
+            m_complex->activeSubControls |= style->m_forcedSubControls;
+        }
         style->m_isDrawing = true;
     }
 
@@ -32,6 +37,8 @@ public:
         if (m_option == nullptr)
             return;
         m_option->state = m_savedState;
+        if (m_complex != nullptr)
+            m_complex->activeSubControls = m_savedSubControls;
         m_style->m_isDrawing = false;
     }
 
@@ -40,10 +47,13 @@ public:
 private:
     const StillStyle *m_style;
     QStyleOption *m_option = nullptr;
+    QStyleOptionComplex *m_complex = nullptr;
     State m_savedState;
+    SubControls m_savedSubControls;
 };
 
-StillStyle::StillStyle(QWidget *control, State forcedState) : m_own(control->style()), m_forcedState(forcedState)
+StillStyle::StillStyle(QWidget *control, State forcedState, SubControls forcedSubControls)
+    : m_own(control->style()), m_forcedState(forcedState), m_forcedSubControls(forcedSubControls)
 {
     setParent(control);
     control->setStyle(this);

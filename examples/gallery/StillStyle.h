@@ -6,7 +6,8 @@
 namespace gallery {
 
 /**
- * Holds a control in a state that it is not in: what the control paints through this style carries the given flags.
+ * Holds a control in a state that it is not in: what the control paints through this style carries the given flags,
+ * and of a complex control also the sub-controls that these are about.
  *
  * Everything goes to the control's own style, which must outlive this one. It is no QProxyStyle because that one takes
  * possession of its base, and the house style is shared.
@@ -17,7 +18,7 @@ class StillStyle : public QCommonStyle
 
 public:
     /** Belongs to the control, and installs itself there over the style that the control has now. */
-    StillStyle(QWidget *control, State forcedState);
+    StillStyle(QWidget *control, State forcedState, SubControls forcedSubControls = SC_None);
 
     void polish(QWidget *widget) override;
     void polish(QApplication *application) override;
@@ -67,6 +68,7 @@ private:
 
     QPointer<QStyle> m_own;
     State m_forcedState;
+    SubControls m_forcedSubControls;
     mutable bool m_isDrawing = false;
 };
 

@@ -1,6 +1,7 @@
 #include "GalleryOptions.h"
 #include "MainWindow.h"
 #include "Shots.h"
+#include "pages/Pages.h"
 
 #include <ZelCmnCtrl03/CC4StyleFactory>
 

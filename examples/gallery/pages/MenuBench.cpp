@@ -1,6 +1,6 @@
 #include "MenuBench.h"
 
-#include "MenuMakers.h"
+#include "MenuEntries.h"
 
 #include <ZelCmnCtrl03/CButtonEx>
 #include <ZelCmnCtrl03/CMenuEx>
@@ -94,11 +94,6 @@ void MenuBench::showChoice(const QMenu *menu, const QAction *action)
 void MenuBench::showPointer()
 {
     m_pointer->setText(m_houseMenu->cursorOnMenu() ? QStringLiteral("yes") : QStringLiteral("no"));
-}
-
-QWidget *makeMenuBench(const Specimen &, const MakerSettings &settings, QWidget *parent)
-{
-    return new MenuBench(settings, parent);
 }
 
 } // namespace gallery

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ControlMaker.h"
+#include "Specimen.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -32,7 +32,5 @@ private:
     QLabel *m_pointer;
     QTimer m_pointerTimer;
 };
-
-QWidget *makeMenuBench(const Specimen &specimen, const MakerSettings &settings, QWidget *parent);
 
 } // namespace gallery

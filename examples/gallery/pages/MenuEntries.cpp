@@ -1,6 +1,6 @@
-#include "MenuMakers.h"
+#include "MenuEntries.h"
 
-#include "Panels.h"
+#include "MakerTools.h"
 
 #include <ZelCmnCtrl03/CMenuEx>
 
@@ -42,20 +42,6 @@ void addEntries(Menu *menu, const SampleTexts &texts)
     submenu->addAction(texts.folder);
 }
 
-template <class Menu>
-QWidget *makePicture(const Specimen &specimen, const MakerSettings &settings, QWidget *parent)
-{
-    Menu menu;
-    if (settings.foreignStyle != nullptr)
-        menu.setStyle(settings.foreignStyle);
-    fillMenu(&menu, settings.texts);
-    menu.setEnabled(settings.isEnabled && specimen.state != State::Disabled);
-    menu.resize(menu.sizeHint());
-    if (specimen.state == State::Hovered)
-        menu.setActiveAction(menu.actions().constFirst());
-    return new Picture(menu.grab(), parent);
-}
-
 } // namespace
 
 void fillMenu(CMenuEx *menu, const SampleTexts &texts)
@@ -66,16 +52,6 @@ void fillMenu(CMenuEx *menu, const SampleTexts &texts)
 void fillMenu(QMenu *menu, const SampleTexts &texts)
 {
     addEntries(menu, texts);
-}
-
-QWidget *makeMenuExPicture(const Specimen &specimen, const MakerSettings &settings, QWidget *parent)
-{
-    return makePicture<CMenuEx>(specimen, settings, parent);
-}
-
-QWidget *makeMenuPicture(const Specimen &specimen, const MakerSettings &settings, QWidget *parent)
-{
-    return makePicture<QMenu>(specimen, settings, parent);
 }
 
 } // namespace gallery

@@ -1,0 +1,24 @@
+#include "Pages.h"
+
+#include <algorithm>
+
+namespace gallery {
+
+const std::vector<PageDescription> &pages()
+{
+    static const std::vector<PageDescription> all = {
+        buttonsPage(), menusPage(), textBoxesPage(), slidersPage(),  scrollBarsPage(),
+        tabsPage(),    listsPage(), splittersPage(), standardPage(), formPage(),
+    };
+    return all;
+}
+
+const PageDescription *findPage(const QString &name)
+{
+    const std::vector<PageDescription> &all = pages();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&name](const PageDescription &page) { return page.name == name; });
+    return found != all.end() ? &*found : nullptr;
+}
+
+} // namespace gallery
