@@ -26,7 +26,9 @@ namespace gallery {
 namespace {
 
 constexpr int formWidth = 560;
-constexpr int progressSteps = 20;
+constexpr int mostCopies = 20;
+constexpr int someCopies = 3;
+constexpr int photoCount = 20;
 const QDate someDay(2026, 3, 14);
 
 /** An order of prints, filled in. What is chosen is told; with every copy ordered the bar grows. */
@@ -108,9 +110,9 @@ QWidget *OrderForm::makePrints()
     size->setCurrentIndex(1);
     connect(size, &QComboBox::currentTextChanged, this, [this](const QString &text) { m_report(text); });
     auto *copies = new QSpinBox;
-    copies->setRange(1, progressSteps);
+    copies->setRange(1, mostCopies);
+    copies->setValue(someCopies);
     connect(copies, qOverload<int>(&QSpinBox::valueChanged), this, &OrderForm::showCopies);
-    copies->setValue(3);
     form->addRow(m_texts.order.size + QLatin1Char(':'), size);
     form->addRow(m_texts.order.copies + QLatin1Char(':'), copies);
     return group;
@@ -157,7 +159,7 @@ QWidget *OrderForm::makePhotosSheet()
     list->setIconSize(QSize(48, 48));
     list->setSpacing(8);
     list->setResizeMode(QListView::Adjust);
-    for (int i = 1; i <= progressSteps; ++i)
+    for (int i = 1; i <= photoCount; ++i)
         new QListWidgetItem(sampleIcon(QStringLiteral("photos-48")), QStringLiteral("%1 %2").arg(m_texts.photos).arg(i),
                             list);
     return list;
@@ -180,7 +182,8 @@ QWidget *OrderForm::makeOptionsSheet()
 QLayout *OrderForm::makeButtons()
 {
     auto *line = new QHBoxLayout;
-    m_progress->setRange(0, progressSteps);
+    m_progress->setRange(0, mostCopies);
+    m_progress->setValue(someCopies);
     auto *print = new QPushButton(m_texts.print);
     print->setDefault(true);
     print->setToolTip(m_texts.order.tip);

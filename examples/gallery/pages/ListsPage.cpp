@@ -13,7 +13,7 @@ namespace gallery {
 namespace {
 
 constexpr QSize viewSize(340, 200);
-constexpr QSize wideSize(380, 240);
+constexpr QSize tableSize(340, 240);
 constexpr int iconPixels = 48;
 constexpr int smallIconPixels = 16;
 constexpr int pictureCount = 9;
@@ -90,7 +90,7 @@ Maker sortedTable(Qt::SortOrder order)
         table->setSortingEnabled(true);
         table->sortByColumn(1, order);
         table->selectRow(2);
-        return finish(table, wideSize, state, settings);
+        return finish(table, tableSize, state, settings);
     };
 }
 

@@ -10,7 +10,7 @@ namespace gallery {
 
 namespace {
 
-constexpr int barLength = 150;
+constexpr int barLength = 130;
 constexpr int tinyLength = 48;
 constexpr int noRoomLength = 24; // less than both arrows
 constexpr QSize areaSize(220, 140);

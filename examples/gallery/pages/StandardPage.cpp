@@ -20,7 +20,7 @@ namespace gallery {
 
 namespace {
 
-constexpr int fieldWidth = 120;
+constexpr int fieldWidth = 100;
 constexpr int sliderLength = 100;
 constexpr int percent = 40;
 const QDate someDay(2026, 3, 14);

@@ -69,7 +69,7 @@ QWidget *makeDocuments(State state, const MakerSettings &settings, QWidget *pare
     tabs->setMovable(true);
     addSheets(tabs, settings.texts);
     QObject::connect(tabs, &QTabWidget::tabCloseRequested, tabs, &QTabWidget::removeTab);
-    return finish(tabs, tabWidgetSize + QSize(120, 0), state, settings);
+    return finish(tabs, tabWidgetSize + QSize(60, 0), state, settings);
 }
 
 QWidget *makeCorners(State state, const MakerSettings &settings, QWidget *parent)
