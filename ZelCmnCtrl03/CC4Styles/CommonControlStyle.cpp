@@ -125,6 +125,7 @@ void CCommonControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOp
     case PE_FrameLineEdit: return drawFrameLineEdit(option, painter, widget);
     case PE_PanelMenu: return; // the menu's gradient shows
     case PE_PanelButtonCommand: return drawPanelButtonCommand(option, painter, widget);
+    case PE_PanelButtonTool: return drawPanelButtonTool(option, painter, widget);
     case PE_PanelLineEdit: return drawPanelLineEdit(option, painter, widget);
     case PE_IndicatorArrowDown: return drawIndicatorArrowDown(option, painter);
     case PE_IndicatorBranch: return drawIndicatorBranch(option, painter);

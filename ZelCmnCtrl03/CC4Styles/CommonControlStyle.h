@@ -149,6 +149,7 @@ private:
     Q_DISABLE_COPY(CCommonControlStyle)
 
     void drawPanelButtonCommand(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawPanelButtonTool(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const;
     void drawFrameLineEdit(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawTextBoxFrame(const QStyleOptionFrame *option, QPainter *painter, const CTextBoxEx *box) const;

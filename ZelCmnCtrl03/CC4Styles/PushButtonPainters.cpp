@@ -325,6 +325,16 @@ void CCommonControlStyle::drawPanelButtonCommand(const QStyleOption *option, QPa
     }
 }
 
+// Fusion draws the face of a tool button as that of a push button, which this style keeps for its own buttons.
+void CCommonControlStyle::drawPanelButtonTool(const QStyleOption *option, QPainter *painter,
+                                              const QWidget *widget) const
+{
+    if (m_pNativeStyle != nullptr && baseStyle()->inherits("QFusionStyle"))
+        m_pNativeStyle->drawPrimitive(PE_PanelButtonTool, option, painter, widget);
+    else
+        QProxyStyle::drawPrimitive(PE_PanelButtonTool, option, painter, widget);
+}
+
 void CCommonControlStyle::drawPushButtonBevel(const QStyleOption *option, QPainter *painter,
                                               const QWidget *widget) const
 {
