@@ -2,6 +2,10 @@
 
 #include "MakerTools.h"
 
+#include <ZelCmnCtrl03/CBlueScrollBarStyle>
+#include <ZelCmnCtrl03/CDropDownScrollBarStyle>
+
+#include <QApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -31,10 +35,26 @@ constexpr Range emptyRange = {barLength, 0, 0};
 constexpr Range tiny = {tinyLength, 40, 20};
 constexpr Range noRoom = {noRoomLength, 40, 20};
 
-Maker scrollBar(Qt::Orientation orientation, const Range &range)
+/** The style that a look needs; null for the application's own. Made once for all bars. */
+using Look = QStyle *(*)();
+
+template <class Style>
+QStyle *lookOf()
 {
-    return [orientation, range](State state, const MakerSettings &settings, QWidget *parent) {
+    static QStyle *const style = [] {
+        auto *made = new Style;
+        made->setParent(qApp);
+        return made;
+    }();
+    return style;
+}
+
+Maker scrollBar(Qt::Orientation orientation, const Range &range, Look look = nullptr)
+{
+    return [orientation, range, look](State state, const MakerSettings &settings, QWidget *parent) {
         auto *bar = new QScrollBar(orientation, parent);
+        if (look != nullptr)
+            bar->setStyle(look());
         bar->setRange(0, range.maximum);
         bar->setPageStep(10);
         bar->setValue(range.value);
@@ -65,6 +85,16 @@ QWidget *makeScrollArea(State state, const MakerSettings &settings, QWidget *par
     return area;
 }
 
+/** The ranges that show what is different about a look. */
+std::vector<Row> rowsOf(Qt::Orientation orientation, Look look)
+{
+    return {
+        {QStringLiteral("Short range"), scrollBar(orientation, shortRange, look)},
+        {QStringLiteral("Long range"), scrollBar(orientation, longRange, look)},
+        {QStringLiteral("Tiny"), scrollBar(orientation, tiny, look)},
+    };
+}
+
 std::vector<Row> rowsOf(Qt::Orientation orientation)
 {
     return {
@@ -92,7 +122,6 @@ const std::vector<Column> areaStates = {
 
 } // namespace
 
-// A further look of scroll bars is a group of its own here: rows of bars to which its maker has given that style.
 PageDescription scrollBarsPage()
 {
     return {
@@ -102,6 +131,12 @@ PageDescription scrollBarsPage()
             {QStringLiteral("Horizontal"), QStringLiteral("The house look, in ranges and lengths of all kinds."),
              table(rowsOf(Qt::Horizontal), states)},
             {QStringLiteral("Vertical"), QStringLiteral("The same bars upright."), table(rowsOf(Qt::Vertical), states)},
+            {QStringLiteral("CBlueScrollBarStyle"), QStringLiteral("Bitmaps all over; disabled, it looks as ever."),
+             table(rowsOf(Qt::Horizontal, lookOf<CBlueScrollBarStyle>), states)},
+            {QStringLiteral("CBlueScrollBarStyle, upright"), QString(),
+             table(rowsOf(Qt::Vertical, lookOf<CBlueScrollBarStyle>), states)},
+            {QStringLiteral("CDropDownScrollBarStyle"), QStringLiteral("For the list of a drop-down: upright only."),
+             table(rowsOf(Qt::Vertical, lookOf<CDropDownScrollBarStyle>), states)},
             {QStringLiteral("Both in an area"), QStringLiteral("With the corner between them."),
              table(areaRow, areaStates)},
         }};
