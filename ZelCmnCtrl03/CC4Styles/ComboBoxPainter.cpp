@@ -23,13 +23,9 @@ void CCommonControlStyle::drawComboBox(const QStyleOptionComplex *option, QPaint
     const QBrush face = painter->brush();
     const QSize size(rect.width(), boxHeight);
     const auto draw = [&face, option](QPainter *picture, const QRect &area) {
-        const QColor border = UIGGetColor(QStringLiteral("UIGCLR_COMPLEX_CACHE_PAINTER"));
         picture->fillRect(area, Qt::white);
         picture->fillRect(area, face);
-        PaintTools::fillLine(picture, area.topLeft(), area.topRight(), border);
-        PaintTools::fillLine(picture, area.bottomLeft(), area.bottomRight(), border);
-        PaintTools::fillLine(picture, area.topLeft(), area.bottomLeft(), border);
-        PaintTools::fillLine(picture, area.topRight(), area.bottomRight(), border);
+        PaintTools::drawOutline(picture, area, UIGGetColor(QStringLiteral("UIGCLR_COMPLEX_CACHE_PAINTER")));
         const QPixmap arrow = UIGGetPixmap(QStringLiteral("dropdown-menu-arrow.png"), PaintTools::deviceRatio(picture));
         const QRect place(QPoint(area.width(), 0) + arrowFromTopRight, zel::deviceIndependentSize(arrow));
         picture->drawPixmap(visualRect(option->direction, area, place).topLeft(), arrow);

@@ -22,10 +22,15 @@ void CCommonControlStyle::drawToolbarFrame(const QStyleOption *, QPainter *, con
 
 void CCommonControlStyle::drawFrameMenu(const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
-    if (qobject_cast<const CMenuEx *>(widget) == nullptr)
-        QProxyStyle::drawPrimitive(PE_FrameMenu, option, painter, widget);
-    else
+    if (qobject_cast<const CMenuEx *>(widget) != nullptr) {
         painter->fillRect(option->rect, UIGGetColor(QStringLiteral("UIGCLR_FRAME_MENU")));
+        return;
+    }
+    // Fusion fills the frame in black. A thin line is what the other base draws.
+    if (baseStyle()->inherits("QFusionStyle"))
+        PaintTools::drawOutline(painter, option->rect, option->palette.color(QPalette::Shadow));
+    else
+        QProxyStyle::drawPrimitive(PE_FrameMenu, option, painter, widget);
 }
 
 // The registry's colours are opaque, so nothing of what lies behind the tip can show through them.

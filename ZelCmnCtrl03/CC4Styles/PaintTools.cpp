@@ -99,6 +99,14 @@ void fillPoint(QPainter *painter, const QPoint &point, const QColor &color)
     painter->fillRect(QRect(point, QSize(1, 1)), color);
 }
 
+void drawOutline(QPainter *painter, const QRect &rect, const QColor &color)
+{
+    fillLine(painter, rect.topLeft(), rect.topRight(), color);
+    fillLine(painter, rect.bottomLeft(), rect.bottomRight(), color);
+    fillLine(painter, rect.topLeft(), rect.bottomLeft(), color);
+    fillLine(painter, rect.topRight(), rect.bottomRight(), color);
+}
+
 void fillTiled(QPainter *painter, const QRect &rect, const QPixmap &tile)
 {
     if (!rect.isEmpty() && !tile.isNull())

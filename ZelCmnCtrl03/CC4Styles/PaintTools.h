@@ -89,6 +89,9 @@ void drawFittedPicture(QPainter *painter, const QRect &target, const QSize &size
 void fillLine(QPainter *painter, const QPoint &from, const QPoint &to, const QColor &color);
 void fillPoint(QPainter *painter, const QPoint &point, const QColor &color);
 
+/** The outermost pixels of `rect`. */
+void drawOutline(QPainter *painter, const QRect &rect, const QColor &color);
+
 /** Fills `rect` with the tile side by side, counted from the painter's origin. A null tile draws nothing. */
 void fillTiled(QPainter *painter, const QRect &rect, const QPixmap &tile);
 

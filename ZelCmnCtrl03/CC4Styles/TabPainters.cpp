@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr int buttonGap = 4; // between a button of a tab and its label
+
 using PaintTools::fillLine;
 using PaintTools::fillPoint;
 
@@ -219,6 +221,21 @@ QColor backgroundOf(const QStyleOption *option, const QWidget *widget)
     return option->palette.color(role);
 }
 
+// What the buttons of a tab, such as the one that closes it, leave for its label. Along the text, so that left is where
+// the text of an upright tab begins.
+QRect besideButtons(const QRect &rect, const QStyleOptionTab *tab)
+{
+    const auto roomOf = [tab](const QSize &button) {
+        if (!button.isValid() || button.isEmpty())
+            return 0;
+        return (isVertical(tab->shape) ? button.height() : button.width()) + buttonGap;
+    };
+    const int left = roomOf(tab->leftButtonSize);
+    const int right = roomOf(tab->rightButtonSize);
+    return tab->direction == Qt::RightToLeft && !isVertical(tab->shape) ? rect.adjusted(right, 0, -left, 0)
+                                                                        : rect.adjusted(left, 0, -right, 0);
+}
+
 } // namespace
 
 void CCommonControlStyle::drawTabBarTab(const QStyleOption *option, QPainter *painter, const QWidget *widget) const
@@ -275,6 +292,7 @@ void CCommonControlStyle::drawTabBarTabLabel(const QStyleOption *option, QPainte
     const int shiftX = proxy()->pixelMetric(PM_TabBarTabShiftHorizontal, option, widget);
     const int shiftY = proxy()->pixelMetric(PM_TabBarTabShiftVertical, option, widget);
     rect.adjust(0, 0, selected ? 0 : shiftX, selected ? 0 : shiftY);
+    rect = besideButtons(rect, tab);
     int flags = Qt::AlignCenter | Qt::TextShowMnemonic;
     if (proxy()->styleHint(SH_UnderlineShortcut, option, widget) == 0)
         flags |= Qt::TextHideMnemonic;

@@ -3,6 +3,7 @@
 #include "Page.h"
 #include "Panels.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QImageWriter>
@@ -39,6 +40,14 @@ void waitFor(const Condition &isFulfilled)
     poll.start(settleInterval);
     QTimer::singleShot(settleLimit, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+// The first picture is what brings the scroll bars of lists in, and they are laid out by posted events.
+QPixmap grab(QWidget *widget)
+{
+    widget->grab();
+    QCoreApplication::processEvents();
+    return widget->grab();
 }
 
 std::unique_ptr<QWidget> makeGround(Ground ground)
@@ -101,7 +110,7 @@ QPixmap picture(const Specimen &specimen, const MakerSettings &settings)
     column->addWidget(cell);
     ground->resize(ground->sizeHint());
     waitFor([cell] { return cell->isSettled(); });
-    return ground->grab();
+    return grab(ground.get());
 }
 
 QPixmap picture(const PageDescription &page, const MakerSettings &settings)
@@ -109,7 +118,7 @@ QPixmap picture(const PageDescription &page, const MakerSettings &settings)
     Page widget(page, settings);
     widget.resize(widget.sizeHint());
     waitFor([&widget] { return widget.isSettled(); });
-    return widget.grab();
+    return grab(&widget);
 }
 
 int savePages(const std::vector<PageDescription> &pages, const MakerSettings &settings, const QString &directory)
