@@ -147,7 +147,7 @@ int CCommonControlStyle::styleHint(StyleHint hint, const QStyleOption *option, c
     case SH_EtchDisabledText: return 1;
     case SH_DitherDisabledText: return 0;
     case SH_Table_GridLineColor: return gridLineColor;
-    case SH_UnderlineShortcut: return 1;
+    case SH_UnderlineShortcut:
     case SH_ItemView_ShowDecorationSelected: return 1;
     case SH_ToolTipLabel_Opacity: return toolTipOpacity(widget);
     default: return QProxyStyle::styleHint(hint, option, widget, returnData);

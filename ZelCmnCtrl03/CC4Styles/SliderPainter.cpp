@@ -124,6 +124,7 @@ void placeHandle(QPainter *painter, const QPoint &topLeft, const QPixmap &image,
 std::vector<int> evenlySpreadTicks(int first, int last, int count)
 {
     std::vector<int> places;
+    places.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         places.push_back(first + (last - first) * i / (count - 1));
     return places;
@@ -135,6 +136,7 @@ std::vector<int> centredTicks(int first, int last, int count)
     const int middle = (first + last) / 2;
     const int half = (count - 1) / 2;
     std::vector<int> places = {middle};
+    places.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < half; ++i)
         places.push_back(first + (middle - first) * i / half);
     for (int i = 1; i <= half; ++i)

@@ -57,6 +57,18 @@ void drawButtons(QPainter *painter, const QStyleOptionSpinBox *option, const QRe
     PixelTable::draw(painter, down, SpinBoxPixels::downChevron);
 }
 
+QStyleOptionFrame frameOption(const QStyleOption &option, const QRect &rect)
+{
+    QStyleOptionFrame frame;
+    frame.state = option.state | QStyle::State_Sunken;
+    frame.direction = option.direction;
+    frame.rect = rect;
+    frame.fontMetrics = option.fontMetrics;
+    frame.palette = option.palette;
+    frame.styleObject = option.styleObject;
+    return frame;
+}
+
 } // namespace
 
 void CCommonControlStyle::drawSpinBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const
@@ -72,10 +84,7 @@ void CCommonControlStyle::drawSpinBox(const QStyleOptionComplex *option, QPainte
         key += QLatin1String("-frameless"); // the frame is for this widget alone
     const auto draw = [&](QPainter *picture, const QRect &area) {
         picture->fillRect(area, Qt::white);
-        QStyleOptionFrame frame;
-        static_cast<QStyleOption &>(frame) = QStyleOption(*option);
-        frame.rect = area;
-        frame.state |= State_Sunken;
+        const QStyleOptionFrame frame = frameOption(*option, area);
         proxy()->drawPrimitive(PE_FrameLineEdit, &frame, picture, widget);
         QStyleOptionSpinBox here = *spinBox;
         here.rect = area;
