@@ -149,6 +149,7 @@ int CCommonControlStyle::styleHint(StyleHint hint, const QStyleOption *option, c
     case SH_Table_GridLineColor: return gridLineColor;
     case SH_UnderlineShortcut: return 1;
     case SH_ItemView_ShowDecorationSelected: return 1;
+    case SH_ComboBox_Popup: return 0; // a list below the box, with a scroll bar; some bases cover the box with a menu
     case SH_ToolTipLabel_Opacity: return toolTipOpacity(widget);
     default: return QProxyStyle::styleHint(hint, option, widget, returnData);
     }
@@ -227,6 +228,9 @@ QRect CCommonControlStyle::comboBoxRect(const QStyleOptionComplex *option, SubCo
 {
     QRect rect = QProxyStyle::subControlRect(CC_ComboBox, option, subControl, widget);
     rect.setHeight(comboBoxHeight);
+    // The list opens at an end of this one: below the drawn box, not over the feet of its text.
+    if (subControl == SC_ComboBoxListBoxPopup)
+        rect.moveBottom(option->rect.top() + drawnComboBoxHeight - 1);
     return rect;
 }
 

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
 
 #include <algorithm>
 
@@ -138,6 +139,7 @@ void CDropDownEx::prepareList()
 {
     if (m_bHasMore)
         showShortList();
+    allowScrollBar();
     limitListWidth(sizeHint().width());
 }
 
@@ -176,6 +178,15 @@ void CDropDownEx::fill(const QStringList &furtherItems)
         items.prepend(m_lastText);
     clear();
     append(items);
+}
+
+// Qt takes the bar away where the list is made under a style with lists like menus; the style may be another one now.
+void CDropDownEx::allowScrollBar()
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    if (style()->styleHint(QStyle::SH_ComboBox_Popup, &option, this) == 0)
+        view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 void CDropDownEx::limitListWidth(int width)

@@ -27,7 +27,8 @@ class CDropDownScrollBarStyle;
  * application whose text is that of "More..." acts as this entry.
  *
  * It takes no style of its own, but the scroll bar of its list has one, CDropDownScrollBarStyle. A view that the
- * application sets itself has a scroll bar of the ordinary kind. The tool tip of the box is its current text.
+ * application sets itself has a scroll bar of the ordinary kind. Styles with lists like menus, such as Fusion, show
+ * none. The tool tip of the box is its current text.
  */
 class ZELCMNCTRL_EXPORT CDropDownEx : public QComboBox
 {
@@ -97,6 +98,7 @@ private:
     void showShortList();
     void showLongList();
     void fill(const QStringList &furtherItems);
+    void allowScrollBar();
     void limitListWidth(int width);
     int widthOfItems() const;
 

@@ -4,6 +4,7 @@
 #include "include/qt_globals.h"
 
 #include <QLinearGradient>
+#include <QStyledItemDelegate>
 
 namespace {
 
@@ -24,11 +25,45 @@ QLinearGradient rowsGradient(int rows)
     return gradient;
 }
 
+bool isRowsGradient(const QGradient *gradient)
+{
+    if (gradient == nullptr || gradient->type() != QGradient::LinearGradient || gradient->stops().size() < 2)
+        return false;
+    const auto rows = static_cast<double>(gradient->stops().size() / 2);
+    return static_cast<const QLinearGradient *>(gradient)->finalStop() == QPointF(0, rows * rowHeight);
+}
+
+/**
+ * Gives each selected row the shading of its own. The palette's brush lies still while the rows scroll over it, and Qt
+ * paints a gradient in 1024 steps, which with many rows would be a few steps and uneven edges for each.
+ */
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QGradient *gradient = option->palette.brush(QPalette::Active, QPalette::Highlight).gradient();
+        // An application that sets a highlight of its own gets that.
+        if (!option->state.testFlag(QStyle::State_Selected) || !isRowsGradient(gradient))
+            return;
+        const QPoint top = option->rect.topLeft();
+        QLinearGradient shading(top, top + QPoint(0, option->rect.height()));
+        shading.setColorAt(0, gradient->stops().constFirst().second);
+        shading.setColorAt(1, gradient->stops().constLast().second);
+        option->palette.setBrush(QPalette::Active, QPalette::Highlight, shading);
+    }
+};
+
 } // namespace
 
 CListBoxEx::CListBoxEx(QWidget *parent) : QListWidget(parent)
 {
     ZEL_LOG_SCOPE;
+    setItemDelegate(new RowDelegate(this));
     setFont(UIGGetFont(fontPixels, -1, false));
 }
 

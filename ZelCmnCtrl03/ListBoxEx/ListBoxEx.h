@@ -7,9 +7,13 @@
 /**
  * The list box of the house: a QListWidget of rows with a picture and a text, and with a gradient behind selected rows.
  *
- * The gradient is the highlight of the palette's active group, made for rows of 92 pixels, and shows in the active
- * window. The class does not set the height of a row, which is that of its picture and its text: give the items a size
- * hint of that height (QListWidgetItem::setSizeHint).
+ * The gradient is the highlight of the palette's active group, in which it repeats for each row of 92 pixels. Qt uses
+ * this group where the list has the focus in the active window; elsewhere selected rows have the ordinary highlight.
+ * The list's delegate shades each selected row from its top to its bottom, whatever its height and wherever the list
+ * has been scrolled; with a delegate of the application the palette's brush shows as it is.
+ *
+ * The class does not set the height of a row. Under the house style a picture of 90 pixels, the style's icon size,
+ * gives 92; where pictures are smaller or missing, give the items a size hint (QListWidgetItem::setSizeHint()).
  */
 class ZELCMNCTRL_EXPORT CListBoxEx : public QListWidget
 {
