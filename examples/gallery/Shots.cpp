@@ -41,6 +41,14 @@ void waitFor(const Condition &isFulfilled)
     loop.exec();
 }
 
+// A view that was never shown lays its rows out when it is painted, and gets its scroll bars in the course of that: the
+// first picture has them where they happen to be.
+QPixmap settledGrab(QWidget *widget)
+{
+    widget->grab();
+    return widget->grab();
+}
+
 std::unique_ptr<QWidget> makeGround(Ground ground)
 {
     if (ground == Ground::Tray)
@@ -101,7 +109,7 @@ QPixmap picture(const Specimen &specimen, const MakerSettings &settings)
     column->addWidget(cell);
     ground->resize(ground->sizeHint());
     waitFor([cell] { return cell->isSettled(); });
-    return ground->grab();
+    return settledGrab(ground.get());
 }
 
 QPixmap picture(const PageDescription &page, const MakerSettings &settings)
@@ -109,7 +117,7 @@ QPixmap picture(const PageDescription &page, const MakerSettings &settings)
     Page widget(page, settings);
     widget.resize(widget.sizeHint());
     waitFor([&widget] { return widget.isSettled(); });
-    return widget.grab();
+    return settledGrab(&widget);
 }
 
 int savePages(const std::vector<PageDescription> &pages, const MakerSettings &settings, const QString &directory)
