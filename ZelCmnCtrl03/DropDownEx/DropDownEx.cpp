@@ -12,6 +12,7 @@
 #include <QStyleOptionComboBox>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 

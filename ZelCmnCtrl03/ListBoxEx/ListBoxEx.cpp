@@ -29,8 +29,9 @@ bool isRowsGradient(const QGradient *gradient)
 {
     if (gradient == nullptr || gradient->type() != QGradient::LinearGradient || gradient->stops().size() < 2)
         return false;
-    const auto rows = static_cast<double>(gradient->stops().size() / 2);
-    return static_cast<const QLinearGradient *>(gradient)->finalStop() == QPointF(0, rows * rowHeight);
+    const auto rows = gradient->stops().size() / 2;
+    const QPointF end(0, static_cast<double>(rows * rowHeight));
+    return static_cast<const QLinearGradient *>(gradient)->finalStop() == end;
 }
 
 /**
@@ -72,6 +73,7 @@ CListBoxEx::~CListBoxEx()
     ZEL_LOG_SCOPE;
 }
 
+// By value, as its callers know it. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void CListBoxEx::addRow(QString imagePath, QString text)
 {
     ZEL_LOG_SCOPE;

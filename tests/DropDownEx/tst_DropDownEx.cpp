@@ -147,11 +147,11 @@ void tst_DropDownEx::opensShort()
     QFETCH(Step, open);
     Box box(m_style);
     box.fill({QStringLiteral("a"), QStringLiteral("b")},
-             {QString(), QStringLiteral("b"), QStringLiteral("B"), QStringLiteral("c"), QStringLiteral("c")});
+             {QString(), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("B"), QStringLiteral("c")});
     QCOMPARE(box.listed(), QStringLiteral("a,b"));
     const QString shortLists[] = {QStringLiteral("a,b,More..."), QStringLiteral("c,a,b,More..."),
                                   QStringLiteral("c,a,b,More...")};
-    const QString longLists[] = {QStringLiteral("a,b,B,c,c"), QStringLiteral("c,a,b,B,c"), QStringLiteral("c,a,b,B,c")};
+    const QString longLists[] = {QStringLiteral("a,b,c,B,c"), QStringLiteral("c,a,b,c,B"), QStringLiteral("c,a,b,c,B")};
     for (int turn = 0; turn < 3; ++turn) {
         open(box);
         QVERIFY(box.isOpen());
