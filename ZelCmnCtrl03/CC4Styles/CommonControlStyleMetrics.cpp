@@ -258,6 +258,9 @@ QRect CCommonControlStyle::comboBoxRect(const QStyleOptionComplex *option, SubCo
 {
     QRect rect = QProxyStyle::subControlRect(CC_ComboBox, option, subControl, widget);
     rect.setHeight(comboBoxHeight);
+    // The list opens at an end of this one: below the drawn box, not over the feet of its text.
+    if (subControl == SC_ComboBoxListBoxPopup)
+        rect.moveBottom(option->rect.top() + drawnComboBoxHeight - 1);
     return rect;
 }
 

@@ -185,6 +185,10 @@ void tst_StandardWidgets::comboBoxIsEighteenHigh()
     auto option = optionFor<QStyleOptionComboBox>(QRect(0, 0, 100, 30));
     for (const auto part : {QStyle::SC_ComboBoxFrame, QStyle::SC_ComboBoxEditField, QStyle::SC_ComboBoxArrow})
         QCOMPARE(m_style->subControlRect(QStyle::CC_ComboBox, &option, part).height(), 18);
+    const QRect list = m_style->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxListBoxPopup);
+    QCOMPARE(list.height(), 18);
+    QCOMPARE(list.bottom(), 20); // of the drawn box
+    QCOMPARE(m_style->styleHint(QStyle::SH_ComboBox_Popup, &option), 0);
 }
 
 void tst_StandardWidgets::toolTipsAreShapedEachTime()

@@ -8,6 +8,8 @@ namespace gallery {
 PageDescription buttonsPage();
 PageDescription menusPage();
 PageDescription textBoxesPage();
+PageDescription dropDownsPage();
+PageDescription listBoxesPage();
 PageDescription slidersPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
