@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScopeGuard>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QToolTip>
@@ -92,6 +93,8 @@ private Q_SLOTS:
     void longToolTipsWrap();
     void toolTipsAreShapedEachTime_data();
     void toolTipsAreShapedEachTime();
+    void longToolTipsStayInSight_data();
+    void longToolTipsStayInSight();
     void buttonColors_data();
     void buttonColors();
     void polishing();
@@ -315,6 +318,35 @@ void tst_StyleMetrics::toolTipsAreShapedEachTime()
         QVERIFY(tip->height() >= tip->heightForWidth(tip->width())); // nothing of the text is cut
     }
     QToolTip::hideText();
+}
+
+void tst_StyleMetrics::longToolTipsStayInSight_data()
+{
+    QTest::addColumn<QPoint>("pointer");
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QTest::newRow("middle") << screen.center();
+    QTest::newRow("right edge") << QPoint(screen.right() - 3, screen.center().y());
+    QTest::newRow("bottom edge") << QPoint(screen.center().x(), screen.bottom() - 3);
+    QTest::newRow("corner") << screen.bottomRight() - QPoint(3, 3);
+}
+
+void tst_StyleMetrics::longToolTipsStayInSight()
+{
+    QFETCH(QPoint, pointer);
+    constexpr int near = 40; // pixels
+    for (const char *sheet : {"", "QToolTip { color: blue }"}) {
+        setSheet(QLatin1String(sheet));
+        const auto withoutSheet = qScopeGuard([] { setSheet(QString()); });
+        QCursor::setPos(pointer);
+        QToolTip::showText(pointer, QStringLiteral("A tip of many words. ").repeated(30));
+        QVERIFY(toolTip() != nullptr);
+        const QRect place(toolTip()->pos(), toolTip()->size());
+        QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(place));
+        QVERIFY(!place.contains(pointer));
+        QVERIFY(place.adjusted(-near, -near, near, near).contains(pointer));
+        QToolTip::hideText();
+        QTRY_VERIFY(toolTip() == nullptr);
+    }
 }
 
 void tst_StyleMetrics::buttonColors_data()
