@@ -51,7 +51,7 @@ void keepOnScreen(QWidget *tip)
     if (screen == nullptr)
         return;
     const QRect area = screen->availableGeometry();
-    QRect place = tip->geometry();
+    QRect place(tip->pos(), tip->size()); // as move() counts; geometry() is without the frame that a platform may add
     place.moveLeft(std::max(area.left(), std::min(place.left(), area.right() + 1 - place.width())));
     place.moveTop(std::max(area.top(), std::min(place.top(), area.bottom() + 1 - place.height())));
     const int above = QCursor::pos().y() - pointerGap - place.height();
