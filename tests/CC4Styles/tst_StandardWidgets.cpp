@@ -24,7 +24,6 @@ namespace {
 using Picture::boundsOf;
 using Picture::Layers;
 
-const QColor nothing(0, 0, 0, 0);
 const QColor callersPen(Qt::green);
 
 // Colours that the look has not, where its own are too much alike, or white on white.
