@@ -13,6 +13,32 @@ namespace {
 
 constexpr int indicatorRoom = 40;
 
+// Stays beside the indicator whatever the language of its text: QLabel goes by the text's direction.
+class WrappingLabel : public CLabelEx
+{
+public:
+    explicit WrappingLabel(QWidget *button) : CLabelEx(button)
+    {
+        setWordWrap(true);
+        setForegroundRole(QPalette::WindowText); // as the native text, not as a push button's
+        alignToIndicator();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        CLabelEx::changeEvent(event);
+        if (event->type() == QEvent::LayoutDirectionChange)
+            alignToIndicator();
+    }
+
+private:
+    void alignToIndicator()
+    {
+        setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter);
+    }
+};
+
 // As Qt's own for the two buttons, which looks for the name in the button's empty text. The label is no object beside
 // the button: it would say the same once more.
 class Interface : public QAccessibleWidget
@@ -89,12 +115,11 @@ void copyTextAndGround(const QPalette &from, QWidget *to)
 } // namespace
 
 SeparateLabel::SeparateLabel(QAbstractButton *button, const QString &text, int width)
-    : m_pButton(button), m_pLabel(new CLabelEx(button)), m_pLayout(new QHBoxLayout(button))
+    : m_pButton(button), m_pLabel(new WrappingLabel(button)), m_pLayout(new QHBoxLayout(button))
 {
     m_pLayout->setContentsMargins(0, 0, 0, 0);
     m_pLayout->setSpacing(0);
     m_pLabel->setText(text);
-    m_pLabel->setWordWrap(true);
     setFixedWidth(width);
     QAccessible::installFactory(makeInterface);
 }
