@@ -109,12 +109,7 @@ void CLabelEx::dragEnterEvent(QDragEnterEvent *event)
         event->ignore();
         return;
     }
-    if (event->source() == this) {
-        event->setDropAction(Qt::MoveAction);
-        event->accept();
-        return;
-    }
-    event->acceptProposedAction();
+    accept(*event);
 }
 
 void CLabelEx::dragLeaveEvent(QDragLeaveEvent *) {}
@@ -128,8 +123,7 @@ void CLabelEx::dropEvent(QDropEvent *event)
         event->ignore();
         return;
     }
-    // Else the source would be told that nobody wanted it.
-    event->accept();
+    accept(*event);
     Q_EMIT signal_droppedOnButton();
 }
 
@@ -190,6 +184,17 @@ void CLabelEx::tellHover()
     Q_EMIT slot_Hovered();
     if (self != nullptr)
         Q_EMIT signal_Hovered(this);
+}
+
+// At the drop once more: its event begins anew, with nothing accepted and with the action that the source has proposed.
+void CLabelEx::accept(QDropEvent &event) const
+{
+    if (event.source() != this) {
+        event.acceptProposedAction();
+        return;
+    }
+    event.setDropAction(Qt::MoveAction);
+    event.accept();
 }
 
 bool CLabelEx::isPartOfButton() const

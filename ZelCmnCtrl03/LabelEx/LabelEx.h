@@ -72,6 +72,7 @@ private:
 
     void tellClick();
     void tellHover();
+    void accept(QDropEvent &event) const;
     bool isPartOfButton() const;
 
     bool m_bHovered = false;
