@@ -7,7 +7,10 @@ namespace gallery {
 // Each in the source file of its name.
 PageDescription buttonsPage();
 PageDescription menusPage();
+PageDescription checkBoxesPage();
 PageDescription textBoxesPage();
+PageDescription labelsPage();
+PageDescription framesPage();
 PageDescription slidersPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
