@@ -1,6 +1,7 @@
 #include "LabelEx/LabelEx.h"
 
 #include "LabelEx/LabelExAccessible.h"
+#include "LabelEx/RightToLeftText.h"
 #include "include/qt_globals.h"
 
 #include <QAbstractButton>
@@ -153,10 +154,24 @@ void CLabelEx::focusOutEvent(QFocusEvent *)
 
 void CLabelEx::paintEvent(QPaintEvent *event)
 {
-    QLabel::paintEvent(event);
-    if (!hasFocus())
-        return;
-    // Not the style's: the house style has no focus frame, and a text has nothing else to show the focus by.
+    if (RightToLeftText::isIn(*this))
+        drawRightToLeftText();
+    else
+        QLabel::paintEvent(event);
+    if (hasFocus())
+        drawFocusFrame();
+}
+
+void CLabelEx::drawRightToLeftText()
+{
+    QPainter painter(this);
+    drawFrame(&painter); // of a style sheet
+    RightToLeftText::draw(&painter, *this);
+}
+
+// Not the style's: the house style has no focus frame, and a text has nothing else to show the focus by.
+void CLabelEx::drawFocusFrame()
+{
     QPainter painter(this);
     painter.setPen(QPen(palette().color(foregroundRole()), 1, Qt::DotLine));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -73,6 +73,8 @@ private:
     void tellClick();
     void tellHover();
     void accept(QDropEvent &event) const;
+    void drawRightToLeftText();
+    void drawFocusFrame();
     bool isPartOfButton() const;
 
     bool m_bHovered = false;

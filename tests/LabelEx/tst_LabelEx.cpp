@@ -51,6 +51,18 @@ bool isDropAccepted(CLabelEx &label, const QMimeData &data)
     return event.isAccepted();
 }
 
+/** The first and the last column that anything is drawn in, in the middle of some rows; -1 for nothing. */
+QPair<int, int> inkIn(const QImage &image, int top, int height)
+{
+    QPair<int, int> columns(-1, -1);
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = top + height / 3; y < top + height; ++y)
+            if (image.pixel(x, y) != image.pixel(0, image.height() - 1))
+                columns = {columns.first < 0 ? x : columns.first, x};
+    }
+    return columns;
+}
+
 QAccessibleInterface *accessible(QObject &object)
 {
     return QAccessible::queryAccessibleInterface(&object);
@@ -77,6 +89,7 @@ private Q_SLOTS:
     void dropsCountAsHovering();
     void keyboard();
     void keyboardPasses();
+    void wrappedRightToLeftText();
     void inAButtonItIsText();
     void accessibleLink();
     void accessibleNames_data();
@@ -276,6 +289,30 @@ void tst_LabelEx::keyboardPasses()
     reached.setFocusPolicy(Qt::StrongFocus);
     listen(reached);
     QCOMPARE(reached.focusPolicy(), Qt::StrongFocus);
+}
+
+// Qt moves each line by the space at its end, and so cuts off a letter of a full one.
+void tst_LabelEx::wrappedRightToLeftText()
+{
+    CLabelEx label;
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(13);
+    label.setFont(font);
+    label.setWordWrap(true);
+    label.setText(QStringLiteral("שלום שלום שלום"));
+    const int width = QFontMetrics(font).horizontalAdvance(QStringLiteral("שלום")) + 2;
+    label.resize(width, label.heightForWidth(width));
+    const QImage image = label.grab().toImage();
+    const int lineHeight = image.height() / 3;
+    QVERIFY(lineHeight >= 13);
+    const QPair<int, int> first = inkIn(image, 0, lineHeight);
+    QVERIFY(first.first >= 0 && first.second > width - 5);
+    QCOMPARE(inkIn(image, lineHeight, lineHeight), first);
+    QCOMPARE(inkIn(image, 2 * lineHeight, lineHeight), first);
+    label.setForegroundRole(QPalette::Link);
+    QVERIFY(label.grab().toImage() != image);
+    label.clear();
+    label.grab();
 }
 
 void tst_LabelEx::inAButtonItIsText()

@@ -32,7 +32,10 @@ void makeLink(CLabelEx *label, const SampleTexts &texts)
     QFont font = label->font();
     font.setUnderline(true);
     label->setFont(font);
-    label->setForegroundRole(QPalette::Highlight);
+    QPalette palette = label->palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        palette.setBrush(group, QPalette::WindowText, palette.brush(group, QPalette::Highlight));
+    label->setPalette(palette);
     label->setText(texts.showDetails);
     label->setCursor(Qt::PointingHandCursor);
 }
@@ -165,7 +168,7 @@ PageDescription labelsPage()
              workingControls(workingRows)},
             {QStringLiteral("Drag and drop"),
              QStringLiteral("Drag the photos into the frame; the printer is a plain file, and refused."),
-             workingControls({{QString(), makeDragAndDrop, Ground::Tray}})},
+             workingControls({{QString(), makeDragAndDrop}})},
         }};
 }
 
