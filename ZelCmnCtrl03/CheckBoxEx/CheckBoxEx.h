@@ -17,8 +17,9 @@ class SeparateLabel;
  * label of a fixed width sits inside of it. A click on that label toggles the button as setChecked() does: toggled()
  * and stateChanged() fire, clicked() and pressed() do not. Assistive tools hear the label's text as the button's name.
  *
- * The label is made as high as its text needs at that width, once; see setFixedLabelWidth(). setText() would write
- * beside it. Without a separate label everything that concerns it does nothing.
+ * The label is made as high as its text needs at that width, once; see setFixedLabelWidth(). A single word that is
+ * wider is cut off. setText() would write beside the label. Without a separate label everything that concerns it does
+ * nothing.
  */
 class ZELCMNCTRL_EXPORT CCheckBoxEx : public QCheckBox
 {

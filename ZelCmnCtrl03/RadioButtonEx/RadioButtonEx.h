@@ -11,16 +11,16 @@
 class SeparateLabel;
 
 /**
- * The radio button of the house: a QRadioButton that can have a separate label, and that the keyboard always reaches.
+ * The radio button of the house: a QRadioButton that can have a separate label. Tab stops at each one of a group.
  *
  * With a separate label the text wraps, which a QRadioButton's own cannot: the button has no text of its own then, and
  * a label of a fixed width sits inside of it. A click on that label toggles the button as setChecked() does: toggled()
- * fires, clicked() and pressed() do not; in an exclusive group
- * a click on the label of the checked button changes nothing. Assistive tools hear the label's text as the button's
- * name.
+ * fires, clicked() and pressed() do not; in an exclusive group a click on the label of the checked button changes
+ * nothing. Assistive tools hear the label's text as the button's name.
  *
- * The label is made as high as its text needs at that width, once; see setFixedLabelWidth(). setText() would write
- * beside it. Without a separate label everything that concerns it does nothing.
+ * The label is made as high as its text needs at that width, once; see setFixedLabelWidth(). A single word that is
+ * wider is cut off. setText() would write beside the label. Without a separate label everything that concerns it does
+ * nothing.
  */
 class ZELCMNCTRL_EXPORT CRadioButtonEx : public QRadioButton
 {

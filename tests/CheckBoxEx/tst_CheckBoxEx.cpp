@@ -45,18 +45,6 @@ QPair<int, int> inkOf(CLabelEx &label, QWidget &button)
     return ink;
 }
 
-/** Counts the paintings that events ask for. */
-class PaintCounter : public QObject
-{
-public:
-    int count = 0;
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
-
 } // namespace
 
 #define ROWS_FOR_BOTH                                                                                                  \
@@ -93,8 +81,6 @@ private Q_SLOTS:
     void textStaysAtTheIndicator() { CHECK_BOTH(checkTextStaysAtTheIndicator) }
     void accessible_data() { ROWS_FOR_BOTH }
     void accessible() { CHECK_BOTH(checkAccessible) }
-    void repaintsUnderTheMouse_data() { ROWS_FOR_BOTH }
-    void repaintsUnderTheMouse() { CHECK_BOTH(checkRepaintsUnderTheMouse) }
     void radioButtonsAreTabStops();
 
 private:
@@ -114,8 +100,6 @@ private:
     void checkTextStaysAtTheIndicator();
     template <class Button>
     void checkAccessible();
-    template <class Button>
-    void checkRepaintsUnderTheMouse();
 
     CCommonControlStyle *m_style = nullptr;
 };
@@ -334,21 +318,6 @@ void tst_CheckBoxEx::checkAccessible()
     button.setEnabled(false);
     actions->doAction(QAccessibleActionInterface::toggleAction());
     QVERIFY(button.isChecked() && interface->state().disabled);
-}
-
-template <class Button>
-void tst_CheckBoxEx::checkRepaintsUnderTheMouse()
-{
-    Button button(longText, nullptr, 100);
-    PaintCounter counter;
-    button.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&button));
-    QCoreApplication::processEvents();
-    button.installEventFilter(&counter);
-    Pointer::enter(button);
-    QTRY_COMPARE(counter.count, 1);
-    Pointer::leave(button);
-    QTRY_COMPARE(counter.count, 2);
 }
 
 void tst_CheckBoxEx::radioButtonsAreTabStops()

@@ -11,7 +11,8 @@ namespace gallery {
 
 namespace {
 
-constexpr int labelWidth = 110; // the long text takes two or three lines
+constexpr int labelWidth = 110;      // the long text takes two or three lines
+constexpr int largeLabelWidth = 150; // for the longest word of German
 constexpr int wideLabelWidth = 240;
 constexpr int smallFontPixels = 10;
 constexpr int largeFontPixels = 18;
@@ -106,13 +107,13 @@ void widen(Button *button)
     button->setFixedLabelWidth(wideLabelWidth);
 }
 
-template <class Button, int pixels>
+template <class Button, int pixels, int width>
 void setFontPixels(Button *button)
 {
     QFont font = button->font();
     font.setPixelSize(pixels);
     button->setLabelFont(font);
-    button->setFixedLabelWidth(labelWidth); // the height goes by the font
+    button->setFixedLabelWidth(width); // the height goes by the font
 }
 
 template <class Button>
@@ -132,8 +133,9 @@ std::vector<Row> labelRows(const QString &name)
         {QStringLiteral("Long text"), labelled<Button>(longText, leave)},
         {QStringLiteral("Checked"), labelled<Button>(longText, check)},
         {QStringLiteral("Coloured"), labelled<Button>(longText, colour)},
-        {QStringLiteral("Small font"), labelled<Button>(longText, setFontPixels<Button, smallFontPixels>)},
-        {QStringLiteral("Large font"), labelled<Button>(longText, setFontPixels<Button, largeFontPixels>)},
+        {QStringLiteral("Small font"), labelled<Button>(longText, setFontPixels<Button, smallFontPixels, labelWidth>)},
+        {QStringLiteral("Large font"),
+         labelled<Button>(longText, setFontPixels<Button, largeFontPixels, largeLabelWidth>)},
         {QStringLiteral("Wider"), labelled<Button>(tipText, widen)},
     };
 }
