@@ -7,9 +7,12 @@ namespace gallery {
 // Each in the source file of its name.
 PageDescription buttonsPage();
 PageDescription menusPage();
+PageDescription checkBoxesPage();
 PageDescription textBoxesPage();
 PageDescription dropDownsPage();
 PageDescription listBoxesPage();
+PageDescription labelsPage();
+PageDescription framesPage();
 PageDescription slidersPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
