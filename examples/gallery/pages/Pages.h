@@ -9,6 +9,8 @@ PageDescription buttonsPage();
 PageDescription menusPage();
 PageDescription textBoxesPage();
 PageDescription slidersPage();
+PageDescription rangeSlidersPage();
+PageDescription zoomSlidersPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();
