@@ -14,6 +14,8 @@ PageDescription listBoxesPage();
 PageDescription labelsPage();
 PageDescription framesPage();
 PageDescription slidersPage();
+PageDescription rangeSlidersPage();
+PageDescription zoomSlidersPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();
