@@ -1,8 +1,10 @@
 #include "Platform/Platform.h"
 
+#include <QCursor>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
@@ -50,7 +52,15 @@ std::unique_ptr<QStyle> createNativeStyle()
 bool startWindowDrag(const QWidget *widget)
 {
     QWindow *handle = widget->window()->windowHandle();
-    return handle != nullptr && handle->startSystemMove();
+    if (handle == nullptr || !handle->startSystemMove())
+        return false;
+    // On X11 the window manager keeps the release to itself, and Qt would go on sending every move to the widget that
+    // was pressed.
+    const QPointF pointer = QCursor::pos();
+    const QPointF local = handle->mapFromGlobal(pointer.toPoint());
+    QCoreApplication::postEvent(handle, new QMouseEvent(QEvent::MouseButtonRelease, local, pointer, Qt::LeftButton,
+                                                        Qt::NoButton, Qt::NoModifier));
+    return true;
 }
 
 void coverScreen(QWidget *window)

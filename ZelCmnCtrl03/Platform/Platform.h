@@ -36,7 +36,8 @@ std::unique_ptr<QStyle> createNativeStyle();
 
 /**
  * Lets the window system move the widget's window with the pointer until the mouse button goes up. For a handler of a
- * mouse press.
+ * press of the left button; the widget that was pressed is told of a release soon after, whether the button is up or
+ * not.
  *
  * False when the window system cannot do that, or the window was never shown: nothing moves then.
  */
