@@ -9,6 +9,8 @@ PageDescription buttonsPage();
 PageDescription menusPage();
 PageDescription textBoxesPage();
 PageDescription slidersPage();
+PageDescription iconButtonsPage();
+PageDescription titleBarPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();
