@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QDir>
 #include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
@@ -92,7 +91,6 @@ class tst_FramelessWindow : public HouseTest
 private Q_SLOTS:
     void init();
     void cleanup();
-    void iconButtonUnderThePointer();
     void pressedAndDraggedOut();
     void showsItsToolTip();
     void movesByItsBar();
@@ -102,7 +100,6 @@ private Q_SLOTS:
 private:
     void open(Qt::WindowFlags flags);
     QPoint away() const { return m_window->mapToGlobal(QPoint(100, 130)); }
-    void takePicture(const char *step) const;
 
     std::unique_ptr<Window> m_window;
 };
@@ -128,31 +125,6 @@ void tst_FramelessWindow::open(Qt::WindowFlags flags)
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     movePointer(away());
     QTRY_VERIFY(m_window->underMouse());
-}
-
-// For eyes: with TST_PICTURES set to a directory, each step leaves a picture of the screen there.
-void tst_FramelessWindow::takePicture(const char *step) const
-{
-    const QString directory = qEnvironmentVariable("TST_PICTURES");
-    if (directory.isEmpty())
-        return;
-    QVERIFY(QApplication::primaryScreen()->grabWindow(0).save(QDir(directory).filePath(
-        QStringLiteral("%1-%2.png").arg(QLatin1String(QTest::currentTestFunction()), QLatin1String(step)))));
-}
-
-void tst_FramelessWindow::iconButtonUnderThePointer()
-{
-    open(Qt::Dialog | Qt::FramelessWindowHint);
-    const QSignalSpy clicked(m_window->tool, &CCustomIconButton::customClicked);
-    const QImage flat = m_window->tool->grab().toImage();
-    movePointer(middleOf(m_window->tool));
-    QTRY_VERIFY(m_window->tool->grab().toImage() != flat);
-    takePicture("raised");
-    mouse("click");
-    QTRY_COMPARE(static_cast<int>(clicked.count()), 1);
-    QTRY_COMPARE(m_window->tool->grab().toImage(), flat);
-    mouse("click", 3);
-    VERIFY_HOLDS_FOR(clicked.count() == 1, 100);
 }
 
 void tst_FramelessWindow::pressedAndDraggedOut()
@@ -189,7 +161,6 @@ void tst_FramelessWindow::showsItsToolTip()
         return QString();
     };
     QTRY_COMPARE(tip(), QStringLiteral("Nach links drehen"));
-    takePicture("tip");
 }
 
 void tst_FramelessWindow::movesByItsBar()
@@ -210,7 +181,6 @@ void tst_FramelessWindow::movesByItsBar()
     };
     QTRY_VERIFY(isUnderWay());
     movePointer(grip + QPoint(100, 60));
-    takePicture("moving");
     mouse("mouseup");
     QTRY_COMPARE(m_window->pos(), start + QPoint(100, 60));
     movePointer(grip + QPoint(300, 200));
@@ -243,11 +213,9 @@ void tst_FramelessWindow::maximizes()
     QTRY_COMPARE(m_window->geometry(), QApplication::primaryScreen()->availableGeometry());
     QTRY_COMPARE(m_window->bar->width(), m_window->width());
     VERIFY_HOLDS_FOR(m_window->geometry() == QApplication::primaryScreen()->availableGeometry(), 300);
-    takePicture("maximized");
     clickMaximize();
     QTRY_COMPARE(m_window->geometry(), before);
     VERIFY_HOLDS_FOR(m_window->geometry() == before, 300);
-    takePicture("restored");
 }
 
 HOUSE_TEST_MAIN(tst_FramelessWindow)
