@@ -16,6 +16,8 @@ PageDescription framesPage();
 PageDescription slidersPage();
 PageDescription rangeSlidersPage();
 PageDescription zoomSlidersPage();
+PageDescription iconButtonsPage();
+PageDescription titleBarPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();
