@@ -182,6 +182,7 @@ void CRainbowProgressDialog::paintEvent(QPaintEvent *event)
 
 void CRainbowProgressDialog::fitHeight()
 {
+    layout()->activate(); // else the least size from before rows were hidden holds
     // Without a row there is nothing that could wrap, and the layout has no height for a width.
     const int wrapped = layout()->minimumHeightForWidth(width());
     resize(width(), wrapped >= 0 ? wrapped : layout()->minimumSize().height());
