@@ -101,8 +101,11 @@ void CProgressDialogEx::makeBar()
     m_ProgressBar->setValue(startValue);
     m_ProgressBar->setTextVisible(false);
     m_ProgressBar->setOrientation(Qt::Horizontal);
-    // The dialog's own palette has a gradient for windows, of which styles would mix a black frame.
-    m_ProgressBar->setPalette(QApplication::palette());
+    // From the dialog's own palette, a gradient for windows, styles would mix a black frame. The groove is the foot of
+    // the dialog: a white one would look missing over a white window.
+    QPalette palette = QApplication::palette();
+    palette.setBrush(QPalette::Base, palette.button());
+    m_ProgressBar->setPalette(palette);
     m_pInnerGrid->addWidget(m_ProgressBar, 1, 0);
 }
 

@@ -7,7 +7,7 @@ namespace gallery {
 const std::vector<PageDescription> &pages()
 {
     static const std::vector<PageDescription> all = {
-        buttonsPage(), menusPage(), textBoxesPage(), slidersPage(),  scrollBarsPage(),
+        buttonsPage(), menusPage(), textBoxesPage(), slidersPage(),  progressPage(), scrollBarsPage(),
         tabsPage(),    listsPage(), splittersPage(), standardPage(), formPage(),
     };
     return all;

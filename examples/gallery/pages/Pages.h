@@ -9,6 +9,7 @@ PageDescription buttonsPage();
 PageDescription menusPage();
 PageDescription textBoxesPage();
 PageDescription slidersPage();
+PageDescription progressPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();
