@@ -104,6 +104,7 @@ void CProgressDialogEx::makeBar()
     // From the dialog's own palette, a gradient for windows, styles would mix a black frame. The groove is the foot of
     // the dialog: a white one would look missing over a white window.
     QPalette palette = QApplication::palette();
+    palette.setBrush(QPalette::Window, palette.window()); // set, or it would be inherited
     palette.setBrush(QPalette::Base, palette.button());
     m_ProgressBar->setPalette(palette);
     m_pInnerGrid->addWidget(m_ProgressBar, 1, 0);

@@ -94,6 +94,8 @@ void tst_ProgressDialogs::dialogStartsAsTold()
     QVERIFY(inner->itemAtPosition(0, 0)->widget() == label && inner->itemAtPosition(1, 0)->widget() == bar);
     QVERIFY(dialog.font().pointSize() == 8 && label->font().pointSize() == 12 && !label->wordWrap());
     QCOMPARE(label->palette().color(QPalette::WindowText), UIGGetColor(QStringLiteral("UIGCLR_WHITE")));
+    // A gradient among a bar's colours would give it a black frame.
+    QVERIFY(bar->palette().brush(QPalette::Window).gradient() == nullptr);
     dialog.setText(longText);
     dialog.grab();
     QCOMPARE(dialog.size(), QSize(375, 95));
