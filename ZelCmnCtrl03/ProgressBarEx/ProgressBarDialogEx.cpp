@@ -23,6 +23,7 @@ constexpr QSize startSize(388, 102);
 constexpr QMargins faceMargins(8, 5, 13, 20);
 constexpr int lineOverhang = 1; // the line at the top ends on the border, not within it
 constexpr int lineAlpha = 153;
+constexpr int labelFlags = int(Qt::TextSingleLine) | int(Qt::AlignCenter);
 constexpr int textFoot = 20;
 constexpr int textMargin = 60;
 constexpr int stripTop = 75;
@@ -269,7 +270,7 @@ void CProgressBarDialogEx::paintFace(QPainter *painter) const
     const QRect face = rect().marginsRemoved(faceMargins);
     painter->fillRect(face.left() - lineOverhang, face.top(), face.width() + 2 * lineOverhang, 1, lineColor);
     painter->setPen(UIGGetColor(QStringLiteral("UIGCLR_WHITE")));
-    painter->drawText(rect().adjusted(0, 0, 0, -textFoot), Qt::TextSingleLine | Qt::AlignCenter, m_sLabel);
+    painter->drawText(rect().adjusted(0, 0, 0, -textFoot), labelFlags, m_sLabel);
 }
 
 void CProgressBarDialogEx::paintStrip(QPainter *painter) const
