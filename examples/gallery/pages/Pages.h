@@ -18,6 +18,7 @@ PageDescription rangeSlidersPage();
 PageDescription zoomSlidersPage();
 PageDescription iconButtonsPage();
 PageDescription titleBarPage();
+PageDescription progressPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();
