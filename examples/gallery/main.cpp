@@ -5,6 +5,8 @@
 
 #include <ZelCmnCtrl03/CC4StyleFactory>
 
+#include <ZelCUtil03/ZelCUtil.h>
+
 #include <QApplication>
 #include <QStyleFactory>
 #include <QTextStream>
@@ -45,7 +47,7 @@ int takePictures(const gallery::GalleryOptions &options)
 {
     const std::unique_ptr<QStyle> foreignStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     gallery::MakerSettings settings;
-    settings.texts = gallery::sampleTexts(qEnvironmentVariable("ZEL_LANGUAGE"));
+    settings.texts = gallery::sampleTexts(QString::fromUtf16(GetLanguage()));
     settings.foreignStyle = options.isForeign ? foreignStyle.get() : nullptr;
     settings.isEnabled = !options.isDisabled;
     settings.isAnimated = false;
