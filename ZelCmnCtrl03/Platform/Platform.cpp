@@ -3,8 +3,11 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
+#include <QWindow>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -42,6 +45,21 @@ std::unique_ptr<QStyle> createNativeStyle()
     if (!native)
         native.reset(QStyleFactory::create(QStringLiteral("Fusion"))); // built into every Qt
     return native;
+}
+
+bool startWindowDrag(const QWidget *widget)
+{
+    QWindow *handle = widget->window()->windowHandle();
+    return handle != nullptr && handle->startSystemMove();
+}
+
+void coverScreen(QWidget *window)
+{
+    const QScreen *screen = window->isWindow() ? window->screen() : nullptr;
+    if (screen == nullptr)
+        return;
+    const QRect area = screen->availableGeometry();
+    window->setGeometry(QRect(area.topLeft(), window->maximumSize().boundedTo(area.size())));
 }
 
 } // namespace Platform
