@@ -1,13 +1,19 @@
 #include "Platform/Platform.h"
 
+#include "include/qt_compat.h"
+
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QWidget>
 #include <QWindow>
+
+#include <algorithm>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -16,6 +22,48 @@
 #endif
 
 namespace Platform {
+
+namespace {
+
+/** Moves a window by the mouse events that the application gets; belongs to the window and ends with the drag. */
+class WindowDrag : public QObject
+{
+public:
+    WindowDrag(QWidget *window, const QPoint &pointer)
+        : QObject(window), m_window(window), m_pointerToCorner(window->pos() - pointer)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::MouseMove && event->type() != QEvent::MouseButtonRelease)
+            return QObject::eventFilter(watched, event);
+        const auto *mouse = static_cast<const QMouseEvent *>(event);
+        if ((mouse->buttons() & Qt::LeftButton) == 0) {
+            qApp->removeEventFilter(this);
+            deleteLater();
+            return false;
+        }
+        m_window->move(zel::globalPosition(mouse) + m_pointerToCorner);
+        return true;
+    }
+
+private:
+    QWidget *const m_window;
+    const QPoint m_pointerToCorner;
+};
+
+QList<QScreen *> screensIn(const QRect &area)
+{
+    QList<QScreen *> screens;
+    for (QScreen *screen : QGuiApplication::screens())
+        if (screen->geometry().intersects(area))
+            screens.append(screen);
+    return screens;
+}
+
+} // namespace
 
 bool registerPrivateFont(const QString &path)
 {
@@ -47,10 +95,32 @@ std::unique_ptr<QStyle> createNativeStyle()
     return native;
 }
 
-bool startWindowDrag(const QWidget *widget)
+QPixmap pictureOfDesktop(const QRect &area)
 {
-    QWindow *handle = widget->window()->windowHandle();
-    return handle != nullptr && handle->startSystemMove();
+    const QList<QScreen *> screens = screensIn(area);
+    qreal ratio = 1.0;
+    for (const QScreen *screen : screens)
+        ratio = std::max(ratio, screen->devicePixelRatio());
+    QPixmap picture(area.size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    bool isEmpty = true;
+    for (QScreen *screen : screens) {
+        const QRect part = screen->geometry() & area;
+        const QRect onScreen = part.translated(-screen->geometry().topLeft());
+        const QPixmap seen = screen->grabWindow(0, onScreen.x(), onScreen.y(), onScreen.width(), onScreen.height());
+        isEmpty = isEmpty && seen.isNull();
+        painter.drawPixmap(part.translated(-area.topLeft()), seen);
+    }
+    painter.end();
+    return isEmpty ? QPixmap() : picture;
+}
+
+void startWindowDrag(QWidget *window, const QPoint &pointer)
+{
+    if (window->windowHandle() == nullptr || !window->windowHandle()->startSystemMove())
+        new WindowDrag(window, pointer);
 }
 
 void coverScreen(QWidget *window)
@@ -60,6 +130,24 @@ void coverScreen(QWidget *window)
         return;
     const QRect area = screen->availableGeometry();
     window->setGeometry(QRect(area.topLeft(), window->maximumSize().boundedTo(area.size())));
+}
+
+QRect taskBarRect(const QScreen &screen)
+{
+    const QRect whole = screen.geometry();
+    const int top = screen.availableGeometry().bottom() + 1;
+    return QRect(whole.left(), top, whole.width(), whole.bottom() + 1 - top);
+}
+
+bool taskBarHidesItself()
+{
+#ifdef Q_OS_WIN
+    APPBARDATA data{};
+    data.cbSize = sizeof(data);
+    return (SHAppBarMessage(ABM_GETSTATE, &data) & ABS_AUTOHIDE) != 0;
+#else
+    return false;
+#endif
 }
 
 } // namespace Platform

@@ -2,10 +2,13 @@
 // the source file beside this header is the only one that may ask for the operating system.
 #pragma once
 
+#include <QPixmap>
+#include <QRect>
 #include <QString>
 
 #include <memory>
 
+class QScreen;
 class QStyle;
 class QWidget;
 
@@ -35,12 +38,19 @@ QString displayName(const QString &path);
 std::unique_ptr<QStyle> createNativeStyle();
 
 /**
- * Lets the window system move the widget's window with the pointer until the mouse button goes up. For a handler of a
- * mouse press.
+ * What the user sees now in `area`, in global coordinates, in the finest density of the screens that it touches.
  *
- * False when the window system cannot do that, or the window was never shown: nothing moves then.
+ * Null where the window system gives no such picture. Parts beyond the screens are transparent.
  */
-bool startWindowDrag(const QWidget *widget);
+QPixmap pictureOfDesktop(const QRect &area);
+
+/**
+ * Lets the window follow the pointer until the left mouse button goes up. For a handler of a press of that button;
+ * `pointer` is where it happened, in global coordinates.
+ *
+ * The window system does it where it can; otherwise the window moves itself.
+ */
+void startWindowDrag(QWidget *window, const QPoint &pointer);
 
 /**
  * Places a window, in its maximum size, at the top left corner of its screen, beside the bars that the system keeps
@@ -50,5 +60,15 @@ bool startWindowDrag(const QWidget *widget);
  * for a widget that is no window.
  */
 void coverScreen(QWidget *window);
+
+/**
+ * The task bar or dock at the bottom edge of the screen, in global coordinates.
+ *
+ * Without one it is an empty strip just below the screen, so that its top is always where windows have to end.
+ */
+QRect taskBarRect(const QScreen &screen);
+
+/** True when the task bar hides itself. Only Windows tells; false elsewhere. */
+bool taskBarHidesItself();
 
 } // namespace Platform
