@@ -24,6 +24,7 @@ constexpr int buttonFrameMargin = 10;
 constexpr int buttonSpacing = 10;
 constexpr QSize smallestButton(83, 27);
 constexpr QSize smallestHelpLink(0, 25);
+constexpr int helpSpacing = 6;
 constexpr int spacingWithCheckBox = 16;
 
 constexpr QMargins shadowRoom(0, 0, 14, 10);
@@ -53,11 +54,13 @@ bool isBlank(const QString &text)
     return text.trimmed().isEmpty();
 }
 
-QHBoxLayout *makeLeadingRow(std::initializer_list<QWidget *> widgets)
+// The icon stands beside the first line of a text at the top, and beside the last one of a text at the bottom.
+QHBoxLayout *makeHelpRow(QWidget *icon, QWidget *text, Qt::Alignment alignment)
 {
     auto *row = new QHBoxLayout;
-    for (QWidget *widget : widgets)
-        row->addWidget(widget);
+    row->setSpacing(helpSpacing);
+    row->addWidget(icon, 0, alignment);
+    row->addWidget(text);
     row->addStretch(0);
     return row;
 }
@@ -136,7 +139,7 @@ CMessageBoxEx::CMessageBoxEx(QWidget *parent, const Texts &texts, QWidget *conte
     d->init();
     setModal(parent != nullptr);
     setButtonTexts();
-    describeToAssistiveTechnology();
+    setWindowTitle(m_title); // names the dialog, in task bars and for assistive technology
 }
 
 CMessageBoxEx::~CMessageBoxEx()
@@ -175,7 +178,8 @@ int CMessageBoxEx::showDialog()
     show();
     ZEL_LOG(zel::LogDetail, zel::CommonControls,
             QStringLiteral("CMessageBoxEx::showDialog <%1 x %2>").arg(width()).arg(height()));
-    const int result = QDialog::exec();
+    // Qt lets events in while it shows a splash screen, and the box may be over by now.
+    const int result = isVisible() ? QDialog::exec() : QDialog::result();
     if (!m_pContent.isNull()) {
         m_pContentLayout->removeWidget(m_pContent);
         m_pContent->setParent(nullptr);
@@ -232,6 +236,8 @@ void CMessageBoxEx::setupUi(QDialog *dialog)
     m_pMainLayout->addLayout(m_pGridLayout);
 
     setupButtonRow(dialog);
+    // Where screens may have notches Qt takes no margin below 0, which a box that is not modal has.
+    dialog->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);
     dialog->setContentsMargins(m_bNoShadow ? QMargins() : shadowRoom);
     dialog->setWindowFlags(Qt::SplashScreen); // what makes it frameless
     dialog->setMouseTracking(true);
@@ -287,6 +293,7 @@ void CMessageBoxEx::addTexts(int stretchBelowTitle, int stretchBelowDescription)
     m_pContentLayout->addStretch(stretchBelowTitle);
     m_pContentLayout->addWidget(m_pDescriptionLabel);
     m_pContentLayout->addStretch(stretchBelowDescription);
+    describeToAssistiveTechnology();
 }
 
 void CMessageBoxEx::addHelpLink()
@@ -302,7 +309,7 @@ void CMessageBoxEx::addHelpLink()
     setLabelProperty(link, font, Qt::AlignLeft, true, m_help, helpColor);
     connect(link, &CLabelEx::clicked, this, &CMessageBoxEx::slot_OnHelpLinkClicked);
     m_pHelpLink = link;
-    m_pHelpRow = makeLeadingRow({m_pHelpIcon, m_pHelpLink});
+    m_pHelpRow = makeHelpRow(m_pHelpIcon, m_pHelpLink, Qt::AlignTop);
     m_pContentLayout->addLayout(m_pHelpRow);
 }
 
@@ -312,7 +319,9 @@ void CMessageBoxEx::addCheckBox(const QString &text)
     m_pCheckBox->setFont(UIGGetFont(descriptionFontPixels, -1, false));
     setTextColor(m_pCheckBox, titleColor);
     connect(m_pCheckBox, &QCheckBox::stateChanged, this, &CMessageBoxEx::slot_OnCheckBoxStateChanged);
-    m_pCheckRow = makeLeadingRow({m_pCheckBox});
+    m_pCheckRow = new QHBoxLayout;
+    m_pCheckRow->addWidget(m_pCheckBox);
+    m_pCheckRow->addStretch(0);
     m_pContentLayout->addStretch(1);
     m_pContentLayout->addLayout(m_pCheckRow);
 }
@@ -342,7 +351,7 @@ void CMessageBoxEx::addHelpCaption()
     m_pHelpLink = new QLabel(m_pContentFrame);
     m_pHelpLink->setMinimumSize(smallestHelpLink);
     setLabelProperty(m_pHelpLink, font, Qt::AlignLeft | Qt::AlignBottom, true, m_help, helpColor);
-    m_pHelpRow = makeLeadingRow({m_pHelpIcon, m_pHelpLink});
+    m_pHelpRow = makeHelpRow(m_pHelpIcon, m_pHelpLink, Qt::AlignBottom);
     m_pContentLayout->addStretch(1);
     m_pContentLayout->addLayout(m_pHelpRow);
 }
@@ -360,8 +369,9 @@ void CMessageBoxEx::setLabelProperty(QLabel *label, const QFont &font, Qt::Align
 
 void CMessageBoxEx::describeToAssistiveTechnology()
 {
-    setWindowTitle(m_title); // shown by task bars; it names the dialog
-    QStringList lines{m_subTitle.trimmed(), m_description.trimmed()};
-    lines.removeAll(QString());
+    QStringList lines;
+    for (const QLabel *label : {m_pTitleLabel, m_pDescriptionLabel})
+        if (label != nullptr && !label->text().isEmpty())
+            lines.append(label->text());
     setAccessibleDescription(lines.join(QLatin1Char('\n')));
 }

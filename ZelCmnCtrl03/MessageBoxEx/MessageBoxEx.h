@@ -19,6 +19,7 @@ class QFrame;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
+class QLinearGradient;
 class QVBoxLayout;
 
 /** The buttons that have a text of their own. */
@@ -230,6 +231,7 @@ private:
 
     // Size and place.
     int widthFloor() const;
+    QSize layoutWish() const;
     void applySize();
     void setMaxSize();
     void growToLayout();
@@ -242,6 +244,7 @@ private:
     void paintShadowedBox(QPainter *painter) const;
     void paintHardEdgedBox(QPainter *painter) const;
     void paintPanel(QPainter *painter) const;
+    QLinearGradient panelGradient() const;
 
     // Interaction.
     Qt::CursorShape cursorAt(const QPoint &position) const;

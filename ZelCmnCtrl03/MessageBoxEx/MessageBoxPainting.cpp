@@ -6,9 +6,12 @@
 #include "UiGraphics.h"
 
 #include <QGuiApplication>
+#include <QLinearGradient>
 #include <QPainter>
 #include <QScreen>
 #include <QShowEvent>
+
+#include <iterator>
 
 namespace {
 
@@ -36,9 +39,29 @@ constexpr QMargins panelOverlap(1, 9, 2, 2);
 constexpr int hardEdgeRoom = 4;
 constexpr qreal hardEdgeWidth = 2.0;
 
+constexpr qreal halfOpacity(const Outline &outline)
+{
+    return outline.alpha / 255.0 / 2;
+}
+
 void drawRounded(QPainter *painter, const QRect &rect)
 {
     painter->drawRoundedRect(rect, cornerRoundness, cornerRoundness, Qt::RelativeSize);
+}
+
+// An outline is one pixel wide and lies on the middle of its rectangle's edge: between two of them a pixel has half of
+// each. Shapes that are filled one over the other give just that, and leave no gaps between the arcs of the corners.
+void fillShadow(QPainter *painter, const QRect &box, QColor color)
+{
+    painter->setPen(Qt::NoPen);
+    qreal opacity = 0;
+    for (std::size_t i = std::size(shadow) - 1; i > 0; --i) {
+        const qreal wanted = 1 - (1 - halfOpacity(shadow[i])) * (1 - halfOpacity(shadow[i - 1]));
+        color.setAlphaF((wanted - opacity) / (1 - opacity));
+        opacity = wanted;
+        painter->setBrush(color);
+        drawRounded(painter, box.adjusted(shadow[i].left, shadow[i].top, shadow[i].right, shadow[i].bottom));
+    }
 }
 
 QRect wholeDesktop()
@@ -78,21 +101,24 @@ void CMessageBoxEx::paintEvent(QPaintEvent *event)
 
 void CMessageBoxEx::paintShadowedBox(QPainter *painter) const
 {
+    if (contentsRect().contains(rect())) { // without room for a shadow all is panel, corners too
+        painter->fillRect(rect(), panelGradient());
+        return;
+    }
     const qreal ratio = m_background.devicePixelRatioF();
     const QPointF place = mapToGlobal(QPoint(0, 0)) - d->m_backgroundOrigin;
     painter->drawPixmap(QRectF(rect()), m_background, QRectF(place * ratio, QSizeF(size()) * ratio));
 
     QColor color = UIGGetColor(QStringLiteral("UIGCLR_VACSCR_LFTLINEPEN"));
-    for (const Outline &outline : shadow) {
-        color.setAlpha(outline.alpha);
-        painter->setPen(color);
-        drawRounded(painter, contentsRect().adjusted(outline.left, outline.top, outline.right, outline.bottom));
-    }
+    fillShadow(painter, contentsRect(), color);
+    color.setAlpha(std::rbegin(shadow)->alpha);
+    painter->setPen(color);
     paintPanel(painter);
 }
 
 void CMessageBoxEx::paintHardEdgedBox(QPainter *painter) const
 {
+    painter->setPen(Qt::NoPen);
     paintPanel(painter);
     painter->setPen(QPen(UIGGetColor(QStringLiteral("UIGCLR_TOOLBAR_PEN_BORDER_LINE")), hardEdgeWidth, Qt::SolidLine,
                          Qt::SquareCap, Qt::BevelJoin));
@@ -112,12 +138,17 @@ void CMessageBoxEx::paintHardEdgedBox(QPainter *painter) const
     }
 }
 
-// In the pen that the painter has.
-void CMessageBoxEx::paintPanel(QPainter *painter) const
+QLinearGradient CMessageBoxEx::panelGradient() const
 {
     QLinearGradient gradient(rect().topLeft(), rect().bottomLeft());
     gradient.setColorAt(0, UIGGetColor(QStringLiteral("UIGCLR_MESSAGEBOXEX_GRAD1")));
     gradient.setColorAt(1, UIGGetColor(QStringLiteral("UIGCLR_MESSAGEBOXEX_GRAD2")));
-    painter->setBrush(gradient);
+    return gradient;
+}
+
+// In the pen that the painter has.
+void CMessageBoxEx::paintPanel(QPainter *painter) const
+{
+    painter->setBrush(panelGradient());
     drawRounded(painter, contentsRect().marginsAdded(panelOverlap));
 }

@@ -7,9 +7,10 @@
 #include <ZelCUtil03/ZelCUtil.h>
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QLayout>
 #include <QScreen>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -47,10 +48,20 @@ int CMessageBoxEx::widthFloor() const
     return m_numButtons == 2 ? m_minWidth2 : m_minWidth1;
 }
 
-QSize CMessageBoxEx::sizeHint() const
+// Layouts hear of new texts and hidden widgets by events, the ones inside of frames one event later.
+QSize CMessageBoxEx::layoutWish() const
 {
     ensurePolished();
-    QSize size = QDialog::sizeHint();
+    for (QBoxLayout *parts :
+         {static_cast<QBoxLayout *>(m_pContentLayout), static_cast<QBoxLayout *>(m_pButtonFrameLayout),
+          static_cast<QBoxLayout *>(m_pMainLayout)})
+        parts->activate();
+    return QDialog::sizeHint();
+}
+
+QSize CMessageBoxEx::sizeHint() const
+{
+    QSize size = layoutWish();
     size.setWidth(qMax(size.width(), widthFloor()));
     size += roomForCurrentLanguage();
     ZEL_LOG(zel::LogDetail, zel::CommonControls,
@@ -95,7 +106,7 @@ void CMessageBoxEx::setMaxSize()
 // since: no box opens with something cut off.
 void CMessageBoxEx::growToLayout()
 {
-    resize(size().expandedTo(layout()->totalSizeHint()));
+    resize(size().expandedTo(layoutWish()));
 }
 
 void CMessageBoxEx::moveToCentre()
@@ -109,6 +120,7 @@ void CMessageBoxEx::updateTitle(QString title)
     ZEL_LOG_SCOPE;
     if (m_pTitleLabel != nullptr)
         m_pTitleLabel->setText(title);
+    describeToAssistiveTechnology();
     applySize();
 }
 
@@ -117,6 +129,7 @@ void CMessageBoxEx::updateDescription(QString description)
     ZEL_LOG_SCOPE;
     if (m_pDescriptionLabel != nullptr)
         m_pDescriptionLabel->setText(description);
+    describeToAssistiveTechnology();
     applySize();
 }
 

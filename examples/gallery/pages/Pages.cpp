@@ -7,8 +7,8 @@ namespace gallery {
 const std::vector<PageDescription> &pages()
 {
     static const std::vector<PageDescription> all = {
-        buttonsPage(), menusPage(), textBoxesPage(), slidersPage(),  scrollBarsPage(),
-        tabsPage(),    listsPage(), splittersPage(), standardPage(), formPage(),
+        buttonsPage(), menusPage(), messageBoxesPage(), textBoxesPage(), slidersPage(), scrollBarsPage(),
+        tabsPage(),    listsPage(), splittersPage(),    standardPage(),  formPage(),
     };
     return all;
 }

@@ -7,6 +7,7 @@ namespace gallery {
 // Each in the source file of its name.
 PageDescription buttonsPage();
 PageDescription menusPage();
+PageDescription messageBoxesPage();
 PageDescription textBoxesPage();
 PageDescription slidersPage();
 PageDescription scrollBarsPage();
