@@ -176,6 +176,7 @@ int CMessageBoxEx::showDialog()
     moveToCentre();
     saveBackgroundPixmap();
     show();
+    activateWindow(); // not every window manager gives a splash screen the keyboard
     ZEL_LOG(zel::LogDetail, zel::CommonControls,
             QStringLiteral("CMessageBoxEx::showDialog <%1 x %2>").arg(width()).arg(height()));
     // Qt lets events in while it shows a splash screen, and the box may be over by now.
