@@ -308,6 +308,7 @@ void CMessageBoxEx::addHelpLink()
     QFont font = UIGGetFont(helpFontPixels, -1, false);
     font.setUnderline(true);
     setLabelProperty(link, font, Qt::AlignLeft, true, m_help, helpColor);
+    link->setCursor(Qt::PointingHandCursor);
     connect(link, &CLabelEx::clicked, this, &CMessageBoxEx::slot_OnHelpLinkClicked);
     m_pHelpLink = link;
     m_pHelpRow = makeHelpRow(m_pHelpIcon, m_pHelpLink, Qt::AlignTop);

@@ -244,6 +244,7 @@ private:
     void paintShadowedBox(QPainter *painter) const;
     void paintHardEdgedBox(QPainter *painter) const;
     void paintPanel(QPainter *painter) const;
+    void paintEndOfTitleBar(QPainter *painter) const;
     QLinearGradient panelGradient() const;
 
     // Interaction.

@@ -2,6 +2,7 @@
 #include "MessageBoxEx/MessageBoxEx.h"
 
 #include "MessageBoxEx/MessageBoxEx_p.h"
+#include "MessageBoxEx/TitleBar/TitleBar.h"
 #include "Platform/Platform.h"
 #include "UiGraphics.h"
 
@@ -114,6 +115,16 @@ void CMessageBoxEx::paintShadowedBox(QPainter *painter) const
     color.setAlpha(std::rbegin(shadow)->alpha);
     painter->setPen(color);
     paintPanel(painter);
+    paintEndOfTitleBar(painter);
+}
+
+// The panel is wider than the bar that lies on it: what it shows of itself at the bar's right continues the bar.
+void CMessageBoxEx::paintEndOfTitleBar(QPainter *painter) const
+{
+    const QRect bar = m_pTitleBar->geometry();
+    const QRect rest(bar.right() + 1, bar.top(), panelOverlap.right(), bar.height());
+    painter->fillRect(rest, m_pTitleBar->palette().window());
+    painter->fillRect(rest.adjusted(0, bar.height() - 1, 0, 0), UIGGetColor(QStringLiteral("UIGCLR_TITLEBAR_PEN")));
 }
 
 void CMessageBoxEx::paintHardEdgedBox(QPainter *painter) const

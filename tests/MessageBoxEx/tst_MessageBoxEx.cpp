@@ -177,7 +177,6 @@ private Q_SLOTS:
     void edgeStopsAtTheLimits();
     void stiffBoxStaysAsItIs();
     void titleBarMovesTheBox();
-    void movesAreTold();
     void shadowFadesInEveryDirection();
     void hardEdge();
     void boxWithoutParentIsAllPanel();
@@ -701,16 +700,6 @@ void tst_MessageBoxEx::titleBarMovesTheBox()
     release(*box, body);
     QCOMPARE(box->pos(), QPoint(130, 120));
     QCOMPARE(box->size(), box->minimumSize());
-}
-
-void tst_MessageBoxEx::movesAreTold()
-{
-    const auto box = makeTextBox();
-    const QSignalSpy moved(box.get(), &CMessageBoxEx::MessageBox_Moved);
-    box->show();
-    const int before = int(moved.count());
-    box->move(box->pos() + QPoint(10, 10));
-    QTRY_COMPARE(int(moved.count()), before + 1);
 }
 
 void tst_MessageBoxEx::shadowFadesInEveryDirection()

@@ -15,9 +15,22 @@ namespace gallery {
 namespace {
 
 constexpr int columnGap = 16;
-constexpr int answerWidth = 520; // the answers change their length and nothing else shall move
+constexpr int answerWidth = 760; // the answers change their length and nothing else shall move
 
 using Record = std::function<void(const QString &)>;
+
+// The same signal several times in a row is said once, with their number.
+QString inShort(const QStringList &lines)
+{
+    QStringList parts;
+    for (int first = 0, next = 0; first < lines.size(); first = next) {
+        while (next < lines.size() && lines.at(next) == lines.at(first))
+            ++next;
+        const int times = next - first;
+        parts.append(times == 1 ? lines.at(first) : QStringLiteral("%1 times %2").arg(times).arg(lines.at(first)));
+    }
+    return parts.join(QStringLiteral(", "));
+}
 
 // One line per signal, in the order in which they fire.
 void recordSignals(CMessageBoxEx *box, const Record &record)
@@ -95,13 +108,13 @@ void MessageBoxBench::showBox(const Choice &choice, QLabel *answer)
     QStringList signalsInOrder;
     recordSignals(box.get(), [&signalsInOrder, answer](const QString &line) {
         signalsInOrder.append(line);
-        answer->setText(signalsInOrder.join(QStringLiteral(", ")));
+        answer->setText(inShort(signalsInOrder));
     });
     connect(box.get(), &CMessageBoxEx::signal_EscapePressed, box.get(), &QWidget::close);
 
     const int result = box->showDialog();
     signalsInOrder.append(QStringLiteral("result 0x%1").arg(result, 0, 16));
-    answer->setText(signalsInOrder.join(QStringLiteral(", ")));
+    answer->setText(inShort(signalsInOrder));
     m_settings.report(QStringLiteral("%1: %2").arg(choice.caption, signalsInOrder.last()));
 }
 
