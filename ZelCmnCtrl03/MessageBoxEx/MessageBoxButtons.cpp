@@ -40,6 +40,8 @@ constexpr int noIndex = -1;
 constexpr int defaultFlag = QMessageBox::Default;
 constexpr int escapeFlag = QMessageBox::Escape;
 constexpr int edgePenWidth = 2;
+constexpr int widthForThreeButtons = 440;
+constexpr int widthForFewerButtons = 390;
 
 QPen edgePen(const QString &colorKey)
 {
@@ -67,9 +69,9 @@ void CMessageBoxEx::setButtonTexts()
 void CMessageBoxEx::initialize(int button0, int button1, int button2)
 {
     ZEL_LOG_SCOPE;
-    m_minWidth3 = 440;
-    m_minWidth2 = 390;
-    m_minWidth1 = 390;
+    m_minWidth3 = widthForThreeButtons;
+    m_minWidth2 = widthForFewerButtons;
+    m_minWidth1 = widthForFewerButtons;
     m_buttons = {button0, button1, button2};
     if ((button2 != 0 && button1 == 0) || (button1 != 0 && button0 == 0)) {
         qWarning("QMessageBox: Inconsistent button parameters");

@@ -106,7 +106,11 @@ void CMessageBoxEx::setMaxSize()
 // since: no box opens with something cut off.
 void CMessageBoxEx::growToLayout()
 {
-    resize(size().expandedTo(layoutWish()));
+    const QSize wish = layoutWish().boundedTo(screenOf(parentWidget())->availableSize());
+    setMaximumSize(maximumSize().expandedTo(wish));
+    // Until it is shown, a box that nobody has resized has a size that Qt made up.
+    const QSize own = testAttribute(Qt::WA_Resized) ? size() : minimumSize();
+    resize(own.expandedTo(wish));
 }
 
 void CMessageBoxEx::moveToCentre()

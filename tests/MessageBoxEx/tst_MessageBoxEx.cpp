@@ -417,6 +417,7 @@ void tst_MessageBoxEx::longTextsAndLabelsAreNotCut()
 {
     const QString label = QStringLiteral("Alle erneut drucken");
     const auto box = makeTextBox(QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel, QStringLiteral("Hilfe"));
+    box->updateDescription(QStringLiteral("Kein Papier")); // fixes the size
     for (const int button : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel})
         box->setButtonText(button, label);
     show(*box, [](CMessageBoxEx &shown) {
@@ -438,6 +439,11 @@ void tst_MessageBoxEx::opensInTheMiddleWithNothingCut()
         QCOMPARE(shown.pos(), QPoint((area.width() - shown.width()) / 2, (area.height() - shown.height()) / 2));
         QVERIFY(widget->height() >= 200);
         QVERIFY(shown.isModal());
+    });
+    CMessageBoxEx small(nullptr, QStringLiteral("Print"), widget);
+    show(small, [](CMessageBoxEx &shown) {
+        QCOMPARE(shown.width(), 390);
+        QVERIFY(shown.height() < 400);
     });
     delete widget;
 }
