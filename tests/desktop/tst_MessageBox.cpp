@@ -147,6 +147,7 @@ private:
 void tst_MessageBox::init()
 {
     HouseTest::init();
+    QTRY_VERIFY(!QApplication::primaryScreen()->availableGeometry().topLeft().isNull()); // bars, see CMakeLists.txt
     movePointer(QPoint(5, 5));
     m_window = std::make_unique<PatternWindow>();
     m_window->setGeometry(100, 100, 1080, 850);
