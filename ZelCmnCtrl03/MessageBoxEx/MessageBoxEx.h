@@ -140,8 +140,8 @@ public:
     void changeCursorShape(bool moveCursor);
 
     /** New texts for a box of texts, which sizes itself anew and cannot be resized by the mouse from then on. */
-    void updateTitle(QString title);
-    void updateDescription(QString description);
+    void updateTitle(const QString &title);
+    void updateDescription(const QString &description);
 
     /** What a box of texts wants: 440 pixels wide with three buttons, else 390, and more where its texts need it. */
     QSize sizeHint() const override;

@@ -119,7 +119,7 @@ void CMessageBoxEx::moveToCentre()
     move(area.left() + (area.width() - width()) / 2, area.top() + (area.height() - height()) / 2);
 }
 
-void CMessageBoxEx::updateTitle(QString title)
+void CMessageBoxEx::updateTitle(const QString &title)
 {
     ZEL_LOG_SCOPE;
     if (m_pTitleLabel != nullptr)
@@ -128,7 +128,7 @@ void CMessageBoxEx::updateTitle(QString title)
     applySize();
 }
 
-void CMessageBoxEx::updateDescription(QString description)
+void CMessageBoxEx::updateDescription(const QString &description)
 {
     ZEL_LOG_SCOPE;
     if (m_pDescriptionLabel != nullptr)

@@ -560,7 +560,7 @@ void tst_MessageBoxEx::countsDown()
     clock.start();
     QCOMPARE(box->showDialog(), int(QDialog::Accepted));
     QCOMPARE(record, expected);
-    QVERIFY(clock.elapsed() > 900 * (qMax(seconds, 0) + 1));
+    QVERIFY(clock.elapsed() > 900LL * (qMax(seconds, 0) + 1));
     VERIFY_HOLDS_FOR(record == expected, 1200); // the timer has ended
 }
 
