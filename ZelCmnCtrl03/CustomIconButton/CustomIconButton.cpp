@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <utility>
+
 using namespace IconButtonPainting;
 
 namespace {
@@ -52,12 +54,11 @@ CCustomIconButton::~CCustomIconButton()
     ZEL_LOG_SCOPE;
 }
 
-// Taken by value, as callers know it; it is a shared handle.
 void CCustomIconButton::AddIcons(QPixmap pixmap)
 {
     ZEL_LOG(zel::LogDetail, zel::CommonControls,
             QStringLiteral("CCustomIconButton::AddIcons <%1 x %2>").arg(pixmap.width()).arg(pixmap.height()));
-    m_icon = pixmap;
+    m_icon = std::move(pixmap);
     m_greyIcon = QPixmap();
 }
 

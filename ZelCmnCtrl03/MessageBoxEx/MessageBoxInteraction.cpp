@@ -37,7 +37,8 @@ void CMessageBoxEx::mousePressEvent(QMouseEvent *event)
     m_bPressed = event->button() == Qt::LeftButton;
     // The title bar is at the top left of the box: their coordinates agree.
     if (m_bPressed && m_pTitleBar->rect().contains(m_dragPos)) {
-        Platform::startWindowDrag(this, zel::globalPosition(event));
+        if (!Platform::startWindowDrag(this))
+            Platform::followPointer(this, zel::globalPosition(event));
         m_bPressed = false;
     }
     m_dragPos = zel::globalPosition(event);

@@ -2,6 +2,7 @@
 
 #include "include/qt_compat.h"
 
+#include <QCursor>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -25,11 +26,11 @@ namespace Platform {
 
 namespace {
 
-/** Moves a window by the mouse events that the application gets; belongs to the window and ends with the drag. */
-class WindowDrag : public QObject
+/** Moves a window by the mouse events that the application gets; belongs to it, and goes when the button goes up. */
+class PointerFollower : public QObject
 {
 public:
-    WindowDrag(QWidget *window, const QPoint &pointer)
+    PointerFollower(QWidget *window, const QPoint &pointer)
         : QObject(window), m_window(window), m_pointerToCorner(window->pos() - pointer)
     {
         qApp->installEventFilter(this);
@@ -117,10 +118,23 @@ QPixmap pictureOfDesktop(const QRect &area)
     return isEmpty ? QPixmap() : picture;
 }
 
-void startWindowDrag(QWidget *window, const QPoint &pointer)
+bool startWindowDrag(const QWidget *widget)
 {
-    if (window->windowHandle() == nullptr || !window->windowHandle()->startSystemMove())
-        new WindowDrag(window, pointer);
+    QWindow *handle = widget->window()->windowHandle();
+    if (handle == nullptr || !handle->startSystemMove())
+        return false;
+    // On X11 the window manager keeps the release to itself, and Qt would go on sending every move to the widget that
+    // was pressed.
+    const QPointF pointer = QCursor::pos();
+    const QPointF local = handle->mapFromGlobal(pointer.toPoint());
+    QCoreApplication::postEvent(handle, new QMouseEvent(QEvent::MouseButtonRelease, local, pointer, Qt::LeftButton,
+                                                        Qt::NoButton, Qt::NoModifier));
+    return true;
+}
+
+void followPointer(QWidget *window, const QPoint &pointer)
+{
+    new PointerFollower(window, pointer);
 }
 
 void coverScreen(QWidget *window)

@@ -45,12 +45,19 @@ std::unique_ptr<QStyle> createNativeStyle();
 QPixmap pictureOfDesktop(const QRect &area);
 
 /**
- * Lets the window follow the pointer until the left mouse button goes up. For a handler of a press of that button;
- * `pointer` is where it happened, in global coordinates.
+ * Lets the window system move the widget's window with the pointer until the mouse button goes up. For a handler of a
+ * press of the left button; the widget that was pressed is told of a release soon after, whether the button is up or
+ * not.
  *
- * The window system does it where it can; otherwise the window moves itself.
+ * False when the window system cannot do that, or the window was never shown: nothing moves then.
  */
-void startWindowDrag(QWidget *window, const QPoint &pointer);
+bool startWindowDrag(const QWidget *widget);
+
+/**
+ * Lets the window move itself with the pointer until the left mouse button goes up: where the window system does not.
+ * `pointer` is where that button was pressed, in global coordinates.
+ */
+void followPointer(QWidget *window, const QPoint &pointer);
 
 /**
  * Places a window, in its maximum size, at the top left corner of its screen, beside the bars that the system keeps

@@ -104,16 +104,13 @@ private Q_SLOTS:
     void captionWidensTheBar();
     void paintsGradientAndCaption();
     void hardEdge();
-    void buttonLooks();
     void buttonSequences();
     void cursors();
     void closeTellsBoth();
     void buttonMayDeleteItsBox();
-    void maximizesAndRestores();
+    void maximizesRestoresAndMinimizes();
     void staleMaximizedFlag();
-    void minimizes();
     void namesAreTranslated();
-    void assistiveTechnologyPresses();
     void withoutBoxOrBitmap();
 };
 
@@ -208,19 +205,6 @@ void tst_TitleBar::hardEdge()
     QCOMPARE(imageOf(box.bar), soft);
 }
 
-void tst_TitleBar::buttonLooks()
-{
-    CCustomIconButtons button(nullptr);
-    QCOMPARE(button.minimumSize(), QSize(17, 17));
-    QCOMPARE(button.maximumSize(), QSize(17, 17));
-    QVERIFY(button.hasMouseTracking() && button.focusPolicy() == Qt::NoFocus);
-    button.AddIcons(UIGGetPixmap(QStringLiteral("Close.png")));
-    QVERIFY(!artwork("Close.png").isNull());
-    QCOMPARE(iconOf(&button), artwork("Close.png"));
-    button.setEnabled(false);
-    QCOMPARE(iconOf(&button), artwork("Close.png"));
-}
-
 void tst_TitleBar::buttonSequences()
 {
     Box box;
@@ -292,7 +276,7 @@ void tst_TitleBar::buttonMayDeleteItsBox()
     QVERIFY(guard.isNull());
 }
 
-void tst_TitleBar::maximizesAndRestores()
+void tst_TitleBar::maximizesRestoresAndMinimizes()
 {
     Box box;
     box.setGeometry(50, 60, 300, 100);
@@ -311,6 +295,8 @@ void tst_TitleBar::maximizesAndRestores()
     QVERIFY(!box.isMaximized());
     QCOMPARE(iconOf(button), artwork("Maximize.png"));
     QCOMPARE(nameOf(button), QStringLiteral("Maximize"));
+    QTest::mouseClick(box.button(minimizeIndex), Qt::LeftButton);
+    QVERIFY(box.isMinimized());
 }
 
 void tst_TitleBar::staleMaximizedFlag()
@@ -326,14 +312,6 @@ void tst_TitleBar::staleMaximizedFlag()
     VERIFY_HOLDS_FOR(box.geometry() == QRect(20, 20, 333, 111) && !box.isMaximized(), 100);
 }
 
-void tst_TitleBar::minimizes()
-{
-    Box box;
-    box.show();
-    QTest::mouseClick(box.button(minimizeIndex), Qt::LeftButton);
-    QVERIFY(box.isMinimized());
-}
-
 void tst_TitleBar::namesAreTranslated()
 {
     Box box;
@@ -347,17 +325,6 @@ void tst_TitleBar::namesAreTranslated()
     for (int i = 0; i < 3; ++i)
         names.append(nameOf(box.button(i)));
     QCOMPARE(names.join(QLatin1Char(',')), QStringLiteral("[Minimize],[Maximize],[Close]"));
-}
-
-void tst_TitleBar::assistiveTechnologyPresses()
-{
-    Box box;
-    box.show();
-    QAccessibleInterface *button = QAccessible::queryAccessibleInterface(box.button(closeIndex));
-    QCOMPARE(button->role(), QAccessible::Button);
-    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QVERIFY(box.told.isEmpty()); // not before the asker has gone
-    QTRY_COMPARE(box.told.size(), 2);
 }
 
 void tst_TitleBar::withoutBoxOrBitmap()

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <utility>
+
 using namespace IconButtonPainting;
 
 CCustomIconButtons::CCustomIconButtons(QWidget *parent) : QWidget(parent), m_savedCursor(cursor())
@@ -27,7 +29,7 @@ CCustomIconButtons::~CCustomIconButtons()
 void CCustomIconButtons::AddIcons(QPixmap pixmap)
 {
     ZEL_LOG_SCOPE;
-    m_icon = pixmap;
+    m_icon = std::move(pixmap);
 }
 
 void CCustomIconButtons::DrawIcons(QPainter *painter)

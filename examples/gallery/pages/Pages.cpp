@@ -7,8 +7,9 @@ namespace gallery {
 const std::vector<PageDescription> &pages()
 {
     static const std::vector<PageDescription> all = {
-        buttonsPage(), menusPage(), messageBoxesPage(), textBoxesPage(), slidersPage(), scrollBarsPage(),
-        tabsPage(),    listsPage(), splittersPage(),    standardPage(),  formPage(),
+        buttonsPage(),     menusPage(),    messageBoxesPage(), textBoxesPage(), slidersPage(),
+        iconButtonsPage(), titleBarPage(), scrollBarsPage(),   tabsPage(),      listsPage(),
+        splittersPage(),   standardPage(), formPage(),
     };
     return all;
 }

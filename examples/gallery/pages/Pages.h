@@ -10,6 +10,8 @@ PageDescription menusPage();
 PageDescription messageBoxesPage();
 PageDescription textBoxesPage();
 PageDescription slidersPage();
+PageDescription iconButtonsPage();
+PageDescription titleBarPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();
