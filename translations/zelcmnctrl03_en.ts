@@ -2,6 +2,30 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CDSliderEx</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>From %1 to %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>description, values</comment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>Lower value</source>
+        <translation>Lower value</translation>
+    </message>
+    <message>
+        <source>Upper value</source>
+        <translation>Upper value</translation>
+    </message>
+</context>
+<context>
     <name>CDropDownEx</name>
     <message>
         <source>More...</source>
@@ -64,6 +88,21 @@
     <message>
         <source>Close</source>
         <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>CZoomSlider</name>
+    <message>
+        <source>Smaller</source>
+        <translation>Smaller</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Larger</translation>
     </message>
 </context>
 </TS>

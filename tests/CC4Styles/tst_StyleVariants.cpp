@@ -208,7 +208,7 @@ void tst_StyleVariants::dropDownScrollBar()
     const int sliderLeft = horizontal.partOf(style, QStyle::SC_ScrollBarSlider).left() + 6;
     image = horizontal.paintedBy(style);
     QCOMPARE(boundsOf(image, "ScrollbarBlueArrowLeft"), QRect(3, 0, 10, 10));
-    QCOMPARE(boundsOf(image, "ScrollbarBlueArrowRight").left(), 199 - 21);
+    QCOMPARE(boundsOf(image, "ScrollbarBlueArrowRight").right(), 199 - 21 + 9);
     QCOMPARE(Picture::colorAt(image, sliderLeft, 2), from("ScrollbarBlueSliderLeft"));
     QCOMPARE(Picture::colorAt(image, sliderLeft + 8, 2), from("ddScrollbarSliderGrayBlit")); // caps only
     horizontal.option.state &= ~QStyle::State_Enabled;
@@ -285,6 +285,7 @@ void tst_StyleVariants::headerFill()
     const CTBWStyle style(nullptr);
     QStyleOptionHeader option;
     option.rect = QRect(10, 0, 80, 20);
+    option.state = QStyle::State_Enabled | QStyle::State_Horizontal;
     option.text = text;
     option.sortIndicator = static_cast<QStyleOptionHeader::SortIndicator>(indicator);
     option.palette.setColor(QPalette::Button, Qt::red);
