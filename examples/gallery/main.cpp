@@ -45,14 +45,23 @@ void setFontSize()
     QApplication::setFont(font);
 }
 
+// Of a language tag as the library has them.
+QLocale localeOf(const QString &tag)
+{
+    if (tag == QLatin1String("zh-chs"))
+        return QLocale(QStringLiteral("zh_CN"));
+    if (tag == QLatin1String("zh-cht"))
+        return QLocale(QStringLiteral("zh_TW"));
+    return QLocale(tag);
+}
+
 // The library's own texts, such as those of the buttons of message boxes; English where there is no better catalogue.
 void loadTexts(QTranslator *translator)
 {
     const QString directory =
         QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zelcmnctrl03/translations");
-    const QString tag = qEnvironmentVariable("ZEL_LANGUAGE");
-    const QLocale locale = tag.isEmpty() ? QLocale() : QLocale(tag);
-    if (!translator->load(locale, QStringLiteral("zelcmnctrl03"), QStringLiteral("_"), directory) &&
+    if (!translator->load(localeOf(QString::fromUtf16(GetLanguage())), QStringLiteral("zelcmnctrl03"),
+                          QStringLiteral("_"), directory) &&
         !translator->load(QStringLiteral("zelcmnctrl03_en"), directory))
         QTextStream(stderr) << QStringLiteral("zel_gallery: no texts in %1\n").arg(directory);
 }

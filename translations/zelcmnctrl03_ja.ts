@@ -1,0 +1,108 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CDSliderEx</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>%1から%2まで</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>description, values</comment>
+        <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>Lower value</source>
+        <translation>下限値</translation>
+    </message>
+    <message>
+        <source>Upper value</source>
+        <translation>上限値</translation>
+    </message>
+</context>
+<context>
+    <name>CDropDownEx</name>
+    <message>
+        <source>More...</source>
+        <translation>その他...</translation>
+    </message>
+</context>
+<context>
+    <name>CMessageBoxEx</name>
+    <message>
+        <source>m_tr_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>m_tr_Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>m_tr_Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>m_tr_No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>m_tr_Abort</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>m_tr_Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>m_tr_Ignore</source>
+        <translation>無視</translation>
+    </message>
+    <message>
+        <source>m_tr_YestoAll</source>
+        <translation>すべてはい</translation>
+    </message>
+    <message>
+        <source>m_tr_NotoAll</source>
+        <translation>すべていいえ</translation>
+    </message>
+</context>
+<context>
+    <name>CTitleBar</name>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>CZoomSlider</name>
+    <message>
+        <source>Smaller</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>拡大</translation>
+    </message>
+</context>
+</TS>
