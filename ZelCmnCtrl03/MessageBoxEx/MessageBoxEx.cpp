@@ -149,7 +149,11 @@ CMessageBoxEx::~CMessageBoxEx()
         m_pTitleBar,          m_pDescriptionLabel, m_pTitleLabel,    m_pHelpLink,    m_pHelpIcon,     m_pLeftButton,
         m_pMiddleButton,      m_pRightButton,      m_pCheckBox,      m_pHelpRow,     m_pButtonRow,    m_pCheckRow,
         m_pButtonFrameLayout, m_pButtonFrame,      m_pContentLayout, m_pTitleLayout, m_pButtonLayout, m_pMainLayout};
-    // Slots of the application hear of each end, and what they throw must not leave a destructor.
+    // Slots of the application hear of each end, and may still call the box.
+    m_pTitleLabel = nullptr;
+    m_pDescriptionLabel = nullptr;
+    m_pCheckBox = nullptr;
+    m_pLeftButton = m_pMiddleButton = m_pRightButton = nullptr;
     try {
         for (QObject *part : parts)
             delete part;

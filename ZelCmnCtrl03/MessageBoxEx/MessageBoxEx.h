@@ -46,10 +46,10 @@ enum CC4_MESSAGEBOXEX_BUTTONS
  * boxes of texts (a title line, a description, a help link, a check box), and boxes around a widget of the application.
  *
  * **Buttons** are QMessageBox::StandardButton values. They may be combined with QMessageBox::Default (this button gets
- * the green face and the focus), QMessageBox::Escape (this button gives up the default role that the first one has
- * otherwise) and popupButton (a click reports and does not end the box). 0 is no button; with none the box has one Ok
- * button. Gaps, values that are no button and negative ones are warned of and dropped, and what is left is used: at
- * least one Ok button.
+ * the green face and the focus), QMessageBox::Escape (without a default elsewhere, the first button then loses the
+ * default role that it has otherwise) and popupButton (a click reports and does not end the box). 0 is no button; with
+ * none the box has one Ok button. Values beyond the last standard button, negative ones and gaps are warned of, and the
+ * box gets one Ok button where nothing usable is left. Whether a value below is one button is not checked.
  *
  * Ok, Cancel, Yes, No, Abort, Retry, Ignore, YesToAll and NoToAll are labelled by the translator that the application
  * has installed, with the keys "m_tr_OK" and so on; `zelcmnctrl03_en.qm` is installed with the library. Other buttons
@@ -117,14 +117,17 @@ public:
     void setDialogFlags(int flags);
     /** QDialog::setModal. A box that is made non-modal loses the room of its shadow, for good. */
     void setModal(bool modal);
-    /** Hides the row of buttons and takes its clicks away, or brings both back; then the box sizes itself anew. */
+    /**
+     * Hides the row of buttons and takes its clicks away, or brings both back; then the box sizes itself anew. A box of
+     * texts cannot be resized by the mouse from then on.
+     */
     void setNoButton(bool noButton);
 
     /** Without a check box: no effect, and false. */
     void setCheckBoxState(bool checked);
     bool checkState();
 
-    /** Lets the mouse resize the box by its right and bottom edge, from its size at first up to the work area. */
+    /** Lets the mouse resize the box by its right and bottom edge, between minimumSize() and the work area. */
     void setResizeable(bool resizeable);
     bool resizeable() const;
 

@@ -1,4 +1,5 @@
 // The drop-down and its list in two stages under a real pointer and real keys, in real windows.
+#include "RealPointer.h"
 #include "helpers/HouseTest.h"
 
 #include "CC4Styles/CommonControlStyle.h"
@@ -16,22 +17,6 @@
 namespace {
 
 const QString more = QStringLiteral("More...");
-
-void xdotool(const QStringList &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-}
-
-void click(const QPoint &global, int button = 1)
-{
-    xdotool({QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y()),
-             QStringLiteral("click"), QString::number(button)});
-}
-
-void key(const char *name)
-{
-    xdotool({QStringLiteral("key"), QLatin1String(name)});
-}
 
 // The blue part of a row of pixels through the slider, which is on top.
 QRect sliderIn(const QImage &bar)
@@ -91,7 +76,7 @@ void tst_DropDown::init()
     m_box->setGeometry(40, 40, 120, 21);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    click(m_window->mapToGlobal(QPoint(20, 380)));
+    RealPointer::clickAt(m_window->mapToGlobal(QPoint(20, 380)));
     QTRY_VERIFY(m_window->isActiveWindow());
 }
 
@@ -103,7 +88,7 @@ void tst_DropDown::cleanup()
 
 void tst_DropDown::open()
 {
-    click(middle());
+    RealPointer::clickAt(middle());
     QTRY_VERIFY(list()->isVisible());
     QVERIFY(QTest::qWaitForWindowExposed(list()->window()));
 }
@@ -117,7 +102,7 @@ void tst_DropDown::choose(const QString &text)
     const QSignalSpy chosen(m_box, qOverload<int>(&QComboBox::activated));
     QVERIFY(QTest::qWaitFor(
         [&] {
-            click(list()->viewport()->mapToGlobal(list()->visualRect(index).center()));
+            RealPointer::clickAt(list()->viewport()->mapToGlobal(list()->visualRect(index).center()));
             return QTest::qWaitFor([&] { return !chosen.isEmpty(); }, 200);
         },
         5000));
@@ -166,7 +151,7 @@ void tst_DropDown::stagesByPointer()
     open();
     QCOMPARE(listed(m_box->count()), QStringLiteral("10 x 15,13 x 18,More..."));
     QCOMPARE(list()->currentIndex().row(), 1);
-    click(m_window->mapToGlobal(QPoint(20, 380)));
+    RealPointer::clickAt(m_window->mapToGlobal(QPoint(20, 380)));
     QTRY_VERIFY(!list()->isVisible());
     QCOMPARE(m_box->currentText(), QStringLiteral("13 x 18"));
     QCOMPARE(clicked.count(), 3);
@@ -176,24 +161,24 @@ void tst_DropDown::stagesByKeys()
 {
     m_box->setFocus();
     for (const char *opening : {"space", "F4", "alt+Down"}) {
-        key(opening);
+        RealPointer::key(opening);
         QTRY_VERIFY(list()->isVisible());
         QCOMPARE(m_box->itemText(m_box->count() - 1), more);
-        key("End");
+        RealPointer::key("End");
         QTRY_COMPARE(list()->currentIndex().row(), m_box->count() - 1);
-        key("Return");
+        RealPointer::key("Return");
         QTRY_VERIFY(m_box->moreSelected() && list()->isVisible());
-        key("End");
+        RealPointer::key("End");
         QTRY_COMPARE(list()->currentIndex().row(), m_box->count() - 1);
-        key("Return");
+        RealPointer::key("Return");
         QTRY_VERIFY(!list()->isVisible());
         QVERIFY(!m_box->moreSelected());
     }
     QCOMPARE(m_box->currentText(), QStringLiteral("39 x 49 on paper"));
-    key("space");
+    RealPointer::key("space");
     QTRY_VERIFY(list()->isVisible());
     QCOMPARE(listed(m_box->count()), QStringLiteral("39 x 49 on paper,10 x 15,13 x 18,More..."));
-    key("Escape");
+    RealPointer::key("Escape");
     QTRY_VERIFY(!list()->isVisible());
     QCOMPARE(m_box->currentText(), QStringLiteral("39 x 49 on paper"));
 }
@@ -201,12 +186,12 @@ void tst_DropDown::stagesByKeys()
 void tst_DropDown::rightButtonAndWheel()
 {
     const QSignalSpy clicked(m_box, &CDropDownEx::customClicked);
-    click(middle(), 3);
+    RealPointer::clickAt(middle(), 3);
     QTRY_COMPARE(clicked.count(), 1);
     VERIFY_HOLDS_FOR(!list()->isVisible() && m_box->count() == 2, 200);
-    click(middle(), 5); // wheel
+    RealPointer::clickAt(middle(), 5); // wheel
     QTRY_COMPARE(m_box->currentText(), QStringLiteral("13 x 18"));
-    click(middle(), 5);
+    RealPointer::clickAt(middle(), 5);
     VERIFY_HOLDS_FOR(!list()->isVisible() && m_box->currentIndex() == 1, 200);
 }
 

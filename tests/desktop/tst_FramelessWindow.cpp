@@ -1,4 +1,5 @@
 // Icon buttons and a title bar under a real pointer, and the frameless window around them under a window manager.
+#include "RealPointer.h"
 #include "helpers/HouseTest.h"
 
 #include "CustomIconButton/CustomIconButton.h"
@@ -14,21 +15,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-void xdotool(const QStringList &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-}
-
-void movePointer(const QPoint &global)
-{
-    xdotool({QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y())});
-}
-
-void mouse(const char *verb, int button = 1)
-{
-    xdotool({QLatin1String(verb), QString::number(button)});
-}
 
 QPoint middleOf(const QWidget *widget)
 {
@@ -108,13 +94,13 @@ void tst_FramelessWindow::init()
 {
     HouseTest::init();
     // Where no window opens under it.
-    movePointer(QApplication::primaryScreen()->geometry().bottomRight() - QPoint(20, 20));
+    RealPointer::moveTo(QApplication::primaryScreen()->geometry().bottomRight() - QPoint(20, 20));
 }
 
 void tst_FramelessWindow::cleanup()
 {
     m_window.reset();
-    mouse("mouseup"); // where a test has failed in the middle of a drag
+    RealPointer::release(); // where a test has failed in the middle of a drag
     HouseTest::cleanup();
 }
 
@@ -123,7 +109,7 @@ void tst_FramelessWindow::open(Qt::WindowFlags flags)
     m_window = std::make_unique<Window>(flags);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    movePointer(away());
+    RealPointer::moveTo(away());
     QTRY_VERIFY(m_window->underMouse());
 }
 
@@ -132,19 +118,19 @@ void tst_FramelessWindow::pressedAndDraggedOut()
     open(Qt::Dialog | Qt::FramelessWindowHint);
     const QSignalSpy clicked(m_window->tool, &CCustomIconButton::customClicked);
     const QImage flat = m_window->tool->grab().toImage();
-    movePointer(middleOf(m_window->tool));
-    mouse("mousedown");
+    RealPointer::moveTo(middleOf(m_window->tool));
+    RealPointer::press();
     QTRY_VERIFY(m_window->tool->grab().toImage() != flat);
-    movePointer(away());
-    mouse("mouseup");
+    RealPointer::moveTo(away());
+    RealPointer::release();
     QTRY_COMPARE(m_window->tool->grab().toImage(), flat);
     QCOMPARE(static_cast<int>(clicked.count()), 0);
 
     const QSignalSpy closeClicked(m_window->button(closeIndex), &CCustomIconButtons::customClicked);
-    movePointer(middleOf(m_window->button(closeIndex)));
-    mouse("mousedown");
-    movePointer(away());
-    mouse("mouseup");
+    RealPointer::moveTo(middleOf(m_window->button(closeIndex)));
+    RealPointer::press();
+    RealPointer::moveTo(away());
+    RealPointer::release();
     QTRY_COMPARE(static_cast<int>(closeClicked.count()), 1);
     QTRY_VERIFY(!m_window->isVisible());
 }
@@ -152,7 +138,7 @@ void tst_FramelessWindow::pressedAndDraggedOut()
 void tst_FramelessWindow::showsItsToolTip()
 {
     open(Qt::Dialog | Qt::FramelessWindowHint);
-    movePointer(middleOf(m_window->tool));
+    RealPointer::moveTo(middleOf(m_window->tool));
     const auto tip = [] {
         const QWidgetList windows = QApplication::topLevelWidgets();
         for (const QWidget *window : windows)
@@ -169,27 +155,27 @@ void tst_FramelessWindow::movesByItsBar()
     const QPoint start = m_window->pos();
     const QString startOnScreen = placeOnScreen(*m_window);
     const QPoint grip = m_window->bar->mapToGlobal(QPoint(60, 15));
-    movePointer(grip);
-    mouse("mousedown");
+    RealPointer::moveTo(grip);
+    RealPointer::press();
     QTRY_COMPARE(m_window->drags, 1);
     // The window manager takes over in its own time, and only moves after that count.
     int moves = 0;
     const auto isUnderWay = [&] {
         ++moves;
-        movePointer(grip + QPoint(moves, 0));
+        RealPointer::moveTo(grip + QPoint(moves, 0));
         return placeOnScreen(*m_window) != startOnScreen;
     };
     QTRY_VERIFY(isUnderWay());
-    movePointer(grip + QPoint(100, 60));
-    mouse("mouseup");
+    RealPointer::moveTo(grip + QPoint(100, 60));
+    RealPointer::release();
     QTRY_COMPARE(m_window->pos(), start + QPoint(100, 60));
-    movePointer(grip + QPoint(300, 200));
+    RealPointer::moveTo(grip + QPoint(300, 200));
     VERIFY_HOLDS_FOR(m_window->pos() == start + QPoint(100, 60), 200);
 
     const QSignalSpy clicked(m_window->tool, &CCustomIconButton::customClicked);
-    movePointer(middleOf(m_window->tool));
+    RealPointer::moveTo(middleOf(m_window->tool));
     QTRY_VERIFY(m_window->tool->underMouse());
-    mouse("click");
+    RealPointer::click();
     QTRY_COMPARE(static_cast<int>(clicked.count()), 1);
 }
 
@@ -206,8 +192,8 @@ void tst_FramelessWindow::maximizes()
     open(flags);
     const QRect before = m_window->geometry();
     const auto clickMaximize = [this] {
-        movePointer(middleOf(m_window->button(maximizeIndex)));
-        mouse("click");
+        RealPointer::moveTo(middleOf(m_window->button(maximizeIndex)));
+        RealPointer::click();
     };
     clickMaximize();
     QTRY_COMPARE(m_window->geometry(), QApplication::primaryScreen()->availableGeometry());

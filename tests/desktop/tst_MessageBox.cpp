@@ -1,4 +1,5 @@
 // The message box under a real pointer and real keys, in real windows.
+#include "RealPointer.h"
 #include "helpers/HouseTest.h"
 
 #include "ButtonEx/ButtonEx.h"
@@ -22,36 +23,10 @@ namespace {
 constexpr int popupFlag = CMessageBoxEx::popupButton;
 constexpr int pureColumns = 3; // at the right of a box, beyond its shadow
 
-void xdotool(const QStringList &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-}
-
-void movePointer(const QPoint &global)
-{
-    xdotool({QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y())});
-}
-
-void pressPointer()
-{
-    xdotool({QStringLiteral("mousedown"), QStringLiteral("1")});
-}
-
-void releasePointer()
-{
-    xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
-}
-
-void pressKey(const char *key)
-{
-    xdotool({QStringLiteral("key"), QLatin1String(key)});
-}
-
 void clickOn(const QWidget *widget)
 {
     QVERIFY(widget != nullptr);
-    movePointer(widget->mapToGlobal(widget->rect().center()));
-    xdotool({QStringLiteral("click"), QStringLiteral("1")});
+    RealPointer::clickAt(widget->mapToGlobal(widget->rect().center()));
 }
 
 // Every point has a colour of its own, so that a picture that is off by one shows.
@@ -148,7 +123,7 @@ void tst_MessageBox::init()
 {
     HouseTest::init();
     QTRY_VERIFY(!QApplication::primaryScreen()->availableGeometry().topLeft().isNull()); // bars, see CMakeLists.txt
-    movePointer(QPoint(5, 5));
+    RealPointer::moveTo(QPoint(5, 5));
     m_window = std::make_unique<PatternWindow>();
     m_window->setGeometry(100, 100, 1080, 850);
     m_window->show();
@@ -192,12 +167,12 @@ void tst_MessageBox::showsWhatLiesBehindWhereverItIs()
 {
     const auto box = makeBox();
     show(*box, [this](CMessageBoxEx &shown) {
-        QTRY_VERIFY(showsPatternBehind(shown));
+        QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
         takePicture("0-centre");
         for (const QPoint &place : {QPoint(137, 211), QPoint(731, 513)}) {
             shown.move(place);
             QTRY_COMPARE(shown.pos(), place);
-            QTRY_VERIFY(showsPatternBehind(shown));
+            QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
         }
         takePicture("1-moved");
     });
@@ -211,17 +186,17 @@ void tst_MessageBox::titleBarDragMovesIt()
         const QPoint before = shown.pos();
         const int movesBefore = int(moved.count());
         const QPoint grip = shown.mapToGlobal(QPoint(60, 15));
-        movePointer(grip);
-        pressPointer();
+        RealPointer::moveTo(grip);
+        RealPointer::press();
         QTest::qWait(100); // the window manager takes the pointer over from where it is by then
         for (const QPoint &way : {QPoint(20, 10), QPoint(90, 60), QPoint(140, 80)}) {
-            movePointer(grip + way);
+            RealPointer::moveTo(grip + way);
             QTest::qWait(50); // the window manager wants to see the way
         }
-        releasePointer();
+        RealPointer::release();
         QTRY_COMPARE(shown.pos(), before + QPoint(140, 80));
         QVERIFY(moved.count() > movesBefore);
-        QTRY_VERIFY(showsPatternBehind(shown));
+        QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
         takePicture("dragged");
         clickOn(buttonOf(shown, QStringLiteral("First"))); // the drag took nothing of the next click
     });
@@ -235,14 +210,14 @@ void tst_MessageBox::edgesResize()
     show(*box, [this](CMessageBoxEx &shown) {
         const auto dragEdge = [&shown](const QPoint &fromBottomRight, const QPoint &way) {
             const QPoint start = shown.mapToGlobal(shown.rect().bottomRight() - fromBottomRight);
-            movePointer(start - QPoint(40, 40));
-            movePointer(start);
+            RealPointer::moveTo(start - QPoint(40, 40));
+            RealPointer::moveTo(start);
             QTRY_VERIFY(shown.cursor().shape() != Qt::ArrowCursor);
-            pressPointer();
-            movePointer(start + way / 2);
-            movePointer(start + way);
+            RealPointer::press();
+            RealPointer::moveTo(start + way / 2);
+            RealPointer::moveTo(start + way);
             QTest::qWait(100);
-            releasePointer();
+            RealPointer::release();
             QTRY_COMPARE(shown.cursor().shape(), Qt::ArrowCursor);
         };
         const QSize smallest = shown.size();
@@ -256,7 +231,7 @@ void tst_MessageBox::edgesResize()
         dragEdge(QPoint(7, 6), QPoint(40, 30));
         QVERIFY(shown.width() > wide.width() + 30 && shown.height() > wide.height() + 70);
         takePicture("large");
-        QTRY_VERIFY(showsPatternBehind(shown));
+        QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
         dragEdge(QPoint(7, 6), QPoint(-400, -300));
         QCOMPARE(shown.size(), smallest);
         // Down to the end of the screen and no further.
@@ -270,13 +245,13 @@ void tst_MessageBox::keys()
     const auto box = makeBox(QMessageBox::Yes, QMessageBox::No | QMessageBox::Default);
     const QSignalSpy escapes(box.get(), &CMessageBoxEx::signal_EscapePressed);
     const int result = show(*box, [&](CMessageBoxEx &shown) {
-        pressKey("Escape");
+        RealPointer::key("Escape");
         QTRY_COMPARE(int(escapes.count()), 1);
         VERIFY_HOLDS_FOR(shown.isVisible(), 200);
         QVERIFY(!buttonOf(shown, QStringLiteral("First"))->hasFocus());
-        pressKey("Tab");
+        RealPointer::key("Tab");
         QTRY_VERIFY(buttonOf(shown, QStringLiteral("First"))->hasFocus());
-        pressKey("Return");
+        RealPointer::key("Return");
     });
     QCOMPARE(result, int(QMessageBox::Yes));
 }

@@ -1,4 +1,5 @@
 // The progress dialogs as real windows: what their masks leave free, and how they are cancelled.
+#include "RealPointer.h"
 #include "helpers/HouseTest.h"
 
 #include "ProgressBarEx/ProgressBarDialogEx.h"
@@ -36,17 +37,6 @@ private:
     static constexpr QRgb light = 0xFFF0E060;
     static constexpr QRgb dark = 0xFF802020;
 };
-
-void xdotool(const QStringList &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-}
-
-void click(const QPoint &global)
-{
-    xdotool({QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y()),
-             QStringLiteral("click"), QStringLiteral("1")});
-}
 
 QImage screen()
 {
@@ -167,12 +157,12 @@ void tst_ProgressWindows::cancelledByKeyAndByClick()
     dialog->move(m_ground->mapToGlobal(QPoint(100, 100)));
     dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
-    click(dialog->mapToGlobal(QPoint(50, 20)));
+    RealPointer::clickAt(dialog->mapToGlobal(QPoint(50, 20)));
     VERIFY_HOLDS_FOR(dialog->isVisible(), 200);
     if (byKey)
-        xdotool({QStringLiteral("key"), QStringLiteral("Escape")});
+        RealPointer::key("Escape");
     else
-        click(m_ground->mapToGlobal(QPoint(20, 20)));
+        RealPointer::clickAt(m_ground->mapToGlobal(QPoint(20, 20)));
     QTRY_VERIFY(!dialog->isVisible());
     QCOMPARE(static_cast<int>(rejected.count()), 1);
     QTRY_VERIFY(isFree(screen(), m_ground->mapToGlobal(QPoint(150, 120))));

@@ -1,4 +1,5 @@
 // The range slider and the zoom slider under a real pointer, in real windows.
+#include "RealPointer.h"
 #include "helpers/HouseTest.h"
 
 #include "ButtonEx/ButtonEx.h"
@@ -18,36 +19,6 @@ constexpr int leftButton = 1;
 constexpr int middleButton = 2;
 constexpr int rightButton = 3;
 constexpr int wheelUp = 4;
-
-void xdotool(const QStringList &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-}
-
-void movePointer(const QPoint &global)
-{
-    xdotool({QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y())});
-}
-
-void press(int button)
-{
-    xdotool({QStringLiteral("mousedown"), QString::number(button)});
-}
-
-void release(int button)
-{
-    xdotool({QStringLiteral("mouseup"), QString::number(button)});
-}
-
-void click(int button)
-{
-    xdotool({QStringLiteral("click"), QString::number(button)});
-}
-
-void pressKey(const char *key)
-{
-    xdotool({QStringLiteral("key"), QLatin1String(key)});
-}
 
 } // namespace
 
@@ -99,8 +70,8 @@ void tst_SliderDrags::init()
             [this](int value) { m_told.append(QStringLiteral("zoom %1").arg(value)); });
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    movePointer(m_window->mapToGlobal(QPoint(20, 20)));
-    click(leftButton);
+    RealPointer::moveTo(m_window->mapToGlobal(QPoint(20, 20)));
+    RealPointer::click(leftButton);
     QTRY_VERIFY(QApplication::activeWindow() == m_window.get());
 }
 
@@ -131,24 +102,24 @@ void tst_SliderDrags::bothHandlesFollowThePointer()
 {
     QFETCH(int, button);
     const QPoint lower = handle(0).center();
-    movePointer(lower);
+    RealPointer::moveTo(lower);
     QTRY_COMPARE(m_range->cursor().shape(), Qt::PointingHandCursor);
-    press(button);
-    movePointer(lower + QPoint(100, 0));
+    RealPointer::press(button);
+    RealPointer::moveTo(lower + QPoint(100, 0));
     QTRY_VERIFY(qAbs(handle(0).center().x() - lower.x() - 100) <= 4);
     takePicture("1-lower");
-    movePointer(lower + QPoint(120, 80)); // a drag may leave the slider
+    RealPointer::moveTo(lower + QPoint(120, 80)); // a drag may leave the slider
     QTRY_VERIFY(qAbs(handle(0).center().x() - lower.x() - 120) <= 4);
-    release(button);
+    RealPointer::release(button);
     QTRY_COMPARE(m_told, QStringList(QStringLiteral("0 at %1").arg(at(0))));
 
     const QPoint upper = handle(1).center();
-    movePointer(upper);
-    press(button);
-    movePointer(upper - QPoint(160, 0));
+    RealPointer::moveTo(upper);
+    RealPointer::press(button);
+    RealPointer::moveTo(upper - QPoint(160, 0));
     QTRY_VERIFY(qAbs(handle(1).center().x() - upper.x() + 160) <= 4);
     takePicture("2-upper");
-    release(button);
+    RealPointer::release(button);
     QTRY_COMPARE(m_told.last(), QStringLiteral("1 at %1").arg(at(1)));
     QVERIFY(at(0) > 25 && at(0) < 35 && at(1) > 55 && at(1) < 65);
 }
@@ -156,51 +127,51 @@ void tst_SliderDrags::bothHandlesFollowThePointer()
 void tst_SliderDrags::handlesDoNotPass()
 {
     const QPoint start = handle(0).center();
-    movePointer(start);
-    press(leftButton);
-    movePointer(start + QPoint(360, 0)); // four pixels are a value
+    RealPointer::moveTo(start);
+    RealPointer::press(leftButton);
+    RealPointer::moveTo(start + QPoint(360, 0)); // four pixels are a value
     QTRY_VERIFY(at(0) > 85 && at(0) < 93);
     const int last = at(0);
-    movePointer(handle(1).center() + QPoint(30, 0));
+    RealPointer::moveTo(handle(1).center() + QPoint(30, 0));
     VERIFY_HOLDS_FOR(at(0) == last && at(1) == 100, 300);
-    movePointer(start + QPoint(200, 0)); // back again
+    RealPointer::moveTo(start + QPoint(200, 0)); // back again
     QTRY_VERIFY(at(0) > 45 && at(0) < 55);
-    movePointer(start + QPoint(360, 0));
+    RealPointer::moveTo(start + QPoint(360, 0));
     QTRY_COMPARE(at(0), last);
-    release(leftButton);
+    RealPointer::release(leftButton);
     QTRY_COMPARE(m_told, QStringList(QStringLiteral("0 at %1").arg(last)));
     takePicture("1-near");
 }
 
 void tst_SliderDrags::rightButtonAndWheelDoNothing()
 {
-    movePointer(handle(0).center());
-    press(rightButton);
-    movePointer(handle(0).center() + QPoint(80, 0));
-    release(rightButton);
-    click(wheelUp);
-    movePointer(handle(0).center() + QPoint(200, 0)); // on the groove
-    click(leftButton);
+    RealPointer::moveTo(handle(0).center());
+    RealPointer::press(rightButton);
+    RealPointer::moveTo(handle(0).center() + QPoint(80, 0));
+    RealPointer::release(rightButton);
+    RealPointer::click(wheelUp);
+    RealPointer::moveTo(handle(0).center() + QPoint(200, 0)); // on the groove
+    RealPointer::click(leftButton);
     VERIFY_HOLDS_FOR(m_told.isEmpty() && at(0) == 0 && at(1) == 100, 300);
 }
 
 void tst_SliderDrags::keysMoveTheHandleThatWasDragged()
 {
-    movePointer(handle(1).center());
-    click(leftButton);
+    RealPointer::moveTo(handle(1).center());
+    RealPointer::click(leftButton);
     QTRY_VERIFY(m_range->hasFocus());
-    pressKey("Page_Down");
+    RealPointer::key("Page_Down");
     QTRY_COMPARE(at(1), 90);
-    pressKey("Left");
+    RealPointer::key("Left");
     QTRY_COMPARE(at(1), 89);
-    movePointer(handle(0).center());
-    click(leftButton);
-    pressKey("Up");
+    RealPointer::moveTo(handle(0).center());
+    RealPointer::click(leftButton);
+    RealPointer::key("Up");
     QTRY_COMPARE(at(0), 1);
-    pressKey("Home");
+    RealPointer::key("Home");
     QTRY_COMPARE(m_told.join(QLatin1String(", ")),
                  QStringLiteral("1 at 100, 1 at 90, 1 at 89, 0 at 0, 0 at 1, 0 at 1"));
-    pressKey("Tab");
+    RealPointer::key("Tab");
     QTRY_VERIFY(!m_range->hasFocus());
 }
 
@@ -208,17 +179,17 @@ void tst_SliderDrags::zoomSliderByEachOfItsParts()
 {
     auto *slider = m_zoom->findChild<CSliderEx *>(QStringLiteral("Slider"));
     const auto *larger = m_zoom->findChild<CButtonEx *>(QStringLiteral("ZoomOut"));
-    movePointer(slider->mapToGlobal(slider->rect().center()));
-    press(leftButton); // the handle comes to the pointer
+    RealPointer::moveTo(slider->mapToGlobal(slider->rect().center()));
+    RealPointer::press(leftButton); // the handle comes to the pointer
     QTRY_VERIFY(qAbs(m_zoom->sliderPosition() - 50) <= 2);
-    movePointer(slider->mapToGlobal(slider->rect().center() + QPoint(50, 0)));
+    RealPointer::moveTo(slider->mapToGlobal(slider->rect().center() + QPoint(50, 0)));
     QTRY_VERIFY(m_zoom->sliderPosition() > 60);
-    release(leftButton);
+    RealPointer::release(leftButton);
     QTRY_VERIFY(!slider->isSliderDown());
     const int before = m_zoom->sliderPosition();
-    movePointer(larger->mapToGlobal(larger->rect().center()));
+    RealPointer::moveTo(larger->mapToGlobal(larger->rect().center()));
     m_told.clear();
-    click(leftButton);
+    RealPointer::click(leftButton);
     QTRY_COMPARE(m_told, QStringList(QStringLiteral("zoom %1").arg(before + 1)));
     takePicture("1-stepped");
 }
