@@ -9,9 +9,11 @@
 #include <QPainter>
 #include <QStyleOptionComboBox>
 
+#include <algorithm>
+
 namespace {
 constexpr int iconMargin = 4;
-constexpr int boxHeight = 21; // whatever the box's own height
+constexpr int boxHeight = 21; // however high the box is; a lower one keeps its bottom line
 constexpr QPoint arrowFromTopRight(-18, 2);
 } // namespace
 
@@ -21,7 +23,7 @@ void CCommonControlStyle::drawComboBox(const QStyleOptionComplex *option, QPaint
         return;
     const QRect rect = option->rect;
     const QBrush face = painter->brush();
-    const QSize size(rect.width(), boxHeight);
+    const QSize size(rect.width(), std::min(boxHeight, rect.height()));
     const auto draw = [&face, option](QPainter *picture, const QRect &area) {
         picture->fillRect(area, Qt::white);
         picture->fillRect(area, face);

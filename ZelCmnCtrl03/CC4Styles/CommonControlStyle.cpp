@@ -127,7 +127,7 @@ void CCommonControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOp
     case PE_PanelButtonCommand: return drawPanelButtonCommand(option, painter, widget);
     case PE_PanelButtonTool: return drawPanelButtonTool(option, painter, widget);
     case PE_PanelLineEdit: return drawPanelLineEdit(option, painter, widget);
-    case PE_IndicatorArrowDown: return drawIndicatorArrowDown(option, painter);
+    case PE_IndicatorArrowDown: return drawIndicatorArrowDown(option, painter, widget);
     case PE_IndicatorBranch: return drawIndicatorBranch(option, painter);
     case PE_IndicatorCheckBox: return drawIndicatorCheckBox(option, painter);
     case PE_IndicatorHeaderArrow: return drawIndicatorHeaderArrow(option, painter, widget);
@@ -152,6 +152,7 @@ void CCommonControlStyle::drawControl(ControlElement element, const QStyleOption
     case CE_HeaderSection: return drawHeaderSection(option, painter);
     case CE_Splitter: return drawSplitter(option, painter);
     case CE_ComboBoxLabel: return drawComboBoxLabel(option, painter, widget);
+    case CE_ItemViewItem: return QCommonStyle::drawControl(element, option, painter, widget); // by our own metrics
     default: return QProxyStyle::drawControl(element, option, painter, widget);
     }
 }

@@ -64,6 +64,9 @@ public:
      */
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                            const QWidget *widget = nullptr) const override;
+    /** The base's places, but that tabs and the items of views are laid out by this style's own metrics. */
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl subControl,
                          const QWidget *widget = nullptr) const override;
 
@@ -150,7 +153,7 @@ private:
 
     void drawPanelButtonCommand(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawPanelButtonTool(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
-    void drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const;
+    void drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawFrameLineEdit(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawTextBoxFrame(const QStyleOptionFrame *option, QPainter *painter, const CTextBoxEx *box) const;
     void drawPanelLineEdit(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;

@@ -21,6 +21,7 @@ namespace {
 constexpr int scrollBarExtra = 4;
 constexpr int scrollBarExtent = 21; // that strips and bitmaps are made for; the bases of today would be thinner
 constexpr int menuFrameWidth = 2;
+constexpr int listIconSize = 90;
 constexpr int comboBoxHeight = 18;
 constexpr int drawnComboBoxHeight = 21;
 constexpr int spinBoxHeight = 21; // where the buttons stand in their square
@@ -50,7 +51,7 @@ void keepOnScreen(QWidget *tip)
     if (screen == nullptr)
         return;
     const QRect area = screen->availableGeometry();
-    QRect place = tip->geometry();
+    QRect place(tip->pos(), tip->size()); // as move() counts; geometry() is without the frame that a platform may add
     place.moveLeft(std::max(area.left(), std::min(place.left(), area.right() + 1 - place.width())));
     place.moveTop(std::max(area.top(), std::min(place.top(), area.bottom() + 1 - place.height())));
     const int above = QCursor::pos().y() - pointerGap - place.height();
@@ -89,20 +90,31 @@ void shapeToolTip(QLabel *label)
 QRect leftToRightSpinBoxRect(const QStyleOptionSpinBox *option, QStyle::SubControl subControl, int frameWidth)
 {
     const QRect rect = option->rect;
+    const int buttonArea = option->buttonSymbols == QAbstractSpinBox::NoButtons ? 0 : spinButtonArea;
     switch (subControl) {
     case QStyle::SC_SpinBoxUp: return QRect(QPoint(rect.right() - spinButtonArea, rect.top() + 2), spinButton);
     case QStyle::SC_SpinBoxDown: return QRect(QPoint(rect.right() - spinButtonArea, rect.height() / 2), spinButton);
     case QStyle::SC_SpinBoxEditField:
-        return rect.adjusted(frameWidth, frameWidth, -spinButtonArea - frameWidth, -frameWidth);
+        return rect.adjusted(frameWidth, frameWidth, -buttonArea - frameWidth, -frameWidth);
     default: return QRect();
     }
+}
+
+// Those that Qt makes by itself have no room for large icons.
+bool isListOfQt(const QWidget *widget)
+{
+    if (widget == nullptr)
+        return false;
+    for (const char *name : {"QComboBoxListView", "QSidebar", "QFileDialogListView"})
+        if (widget->inherits(name))
+            return true;
+    return false;
 }
 
 // A font of its own may want more height than the look is made for.
 QSize spinBoxSize(const QSize &based, const QStyleOption *option)
 {
-    const int lowest = std::max(spinBoxHeight, option != nullptr ? option->fontMetrics.height() + 4 : 0);
-    return QSize(based.width(), std::min(based.height(), lowest));
+    return QSize(based.width(), std::max(spinBoxHeight, option != nullptr ? option->fontMetrics.height() + 4 : 0));
 }
 
 QSize sliderSize(const QSize &based, const QStyleOption *option)
@@ -133,7 +145,8 @@ int CCommonControlStyle::pixelMetric(PixelMetric metric, const QStyleOption *opt
     case PM_IndicatorHeight: return 16;
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight: return 18;
-    case PM_ListViewIconSize: return 90;
+    case PM_ListViewIconSize:
+        return isListOfQt(widget) ? QProxyStyle::pixelMetric(metric, option, widget) : listIconSize;
     // Not every base leaves room for the frame of menus.
     case PM_MenuPanelWidth: return std::max(menuFrameWidth, QProxyStyle::pixelMetric(metric, option, widget));
     default: return QProxyStyle::pixelMetric(metric, option, widget);
@@ -145,7 +158,8 @@ int CCommonControlStyle::styleHint(StyleHint hint, const QStyleOption *option, c
 {
     switch (hint) {
     case SH_EtchDisabledText: return 1;
-    case SH_DitherDisabledText: return 0;
+    case SH_DitherDisabledText:
+    case SH_ComboBox_Popup: return 0; // a list, and no menu with check marks
     case SH_Table_GridLineColor: return gridLineColor;
     case SH_UnderlineShortcut:
     case SH_ItemView_ShowDecorationSelected: return 1;
@@ -191,12 +205,29 @@ bool CCommonControlStyle::drawsFor(const QWidget *widget) const
 QSize CCommonControlStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                                             const QWidget *widget) const
 {
+    if (type == CT_ItemViewItem || type == CT_TabBarTab)
+        return QCommonStyle::sizeFromContents(type, option, size, widget);
     const QSize based = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_ComboBox: return QSize(based.width(), drawnComboBoxHeight);
     case CT_SpinBox: return spinBoxSize(based, option);
     case CT_Slider: return sliderSize(based, option);
     default: return based;
+    }
+}
+
+// A base that is a proxy itself asks its own metrics; the plain layout asks those of this style.
+QRect CCommonControlStyle::subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const
+{
+    switch (element) {
+    case SE_TabBarTabText:
+    case SE_TabBarTabLeftButton:
+    case SE_TabBarTabRightButton:
+    case SE_ItemViewItemCheckIndicator:
+    case SE_ItemViewItemDecoration:
+    case SE_ItemViewItemText:
+    case SE_ItemViewItemFocusRect: return QCommonStyle::subElementRect(element, option, widget);
+    default: return QProxyStyle::subElementRect(element, option, widget);
     }
 }
 
@@ -227,6 +258,9 @@ QRect CCommonControlStyle::comboBoxRect(const QStyleOptionComplex *option, SubCo
 {
     QRect rect = QProxyStyle::subControlRect(CC_ComboBox, option, subControl, widget);
     rect.setHeight(comboBoxHeight);
+    // The list opens at an end of this one: below the drawn box, not over the feet of its text.
+    if (subControl == SC_ComboBoxListBoxPopup)
+        rect.moveBottom(option->rect.top() + drawnComboBoxHeight - 1);
     return rect;
 }
 

@@ -4,8 +4,10 @@
 #include "CC4Styles/PaintTools.h"
 #include "UiGraphics.h"
 
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolButton>
 
 namespace {
 
@@ -17,15 +19,18 @@ struct GlyphRow
     int width;
 };
 
-// Of the open and the closed branch, in a field of 16 by 16.
+constexpr int branchField = 16; // the side of the field that the branch's glyphs stand in
 constexpr GlyphRow openBranch[] = {{6, 4, 7}, {7, 5, 5}, {8, 6, 3}, {9, 7, 1}};
 constexpr GlyphRow closedBranch[] = {{4, 6, 1}, {5, 6, 2}, {6, 6, 3}, {7, 6, 4}, {8, 6, 3}, {9, 6, 2}, {10, 6, 1}};
 
 template <std::size_t Rows>
-void drawGlyph(QPainter *painter, const QPoint &topLeft, const GlyphRow (&rows)[Rows])
+void drawBranch(QPainter *painter, const QPoint &topLeft, const GlyphRow (&rows)[Rows], Qt::LayoutDirection direction)
 {
-    for (const GlyphRow &row : rows)
-        painter->fillRect(topLeft.x() + row.x, topLeft.y() + row.y, row.width, 1, Qt::black);
+    const QRect field(topLeft, QSize(branchField, branchField));
+    for (const GlyphRow &row : rows) {
+        const QRect pixels(topLeft + QPoint(row.x, row.y), QSize(row.width, 1));
+        painter->fillRect(QStyle::visualRect(direction, field, pixels), Qt::black);
+    }
 }
 
 /** What tells the two indicators apart. */
@@ -87,8 +92,12 @@ void CCommonControlStyle::drawIndicatorRadioButton(const QStyleOption *option, Q
 
 // A triangle of shrinking rows at the right end of the rectangle. Its height counts from the painter's origin and not
 // from the top of the rectangle: that is the look, and marks in low rectangles stand higher for it.
-void CCommonControlStyle::drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter) const
+// It is made for the chevron of a button and for sort marks; in tool buttons and menus it would be out of place.
+void CCommonControlStyle::drawIndicatorArrowDown(const QStyleOption *option, QPainter *painter,
+                                                 const QWidget *widget) const
 {
+    if (qobject_cast<const QToolButton *>(widget) != nullptr || qobject_cast<const QMenu *>(widget) != nullptr)
+        return QProxyStyle::drawPrimitive(PE_IndicatorArrowDown, option, painter, widget);
     QColor color = UIGGetColor(QStringLiteral("UIGCLR_INDICATOR_ARROW"));
     color.setAlpha(0xB4);
     const int right = option->rect.right();
@@ -115,7 +124,7 @@ void CCommonControlStyle::drawIndicatorBranch(const QStyleOption *option, QPaint
     const QRect rect = option->rect;
     const QPoint topLeft(rect.x() + rect.width() / 2 - 4, rect.y() + rect.height() / 2 - 3 - 4);
     if (option->state.testFlag(State_Open))
-        drawGlyph(painter, topLeft, openBranch);
+        drawBranch(painter, topLeft, openBranch, Qt::LeftToRight);
     else
-        drawGlyph(painter, topLeft, closedBranch);
+        drawBranch(painter, topLeft, closedBranch, option->direction);
 }

@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr int iconGap = 4; // between icon and text of a plain button
+
 /** What tells the three bitmap faces apart. */
 struct SlicedLook
 {
@@ -241,6 +243,21 @@ int textOffsetBesideImage(CButtonEx::CButtonStyles look, const QRect &rect)
     return narrowInsets && rect.width() <= narrowUpTo ? narrowTextOffset : textOffset;
 }
 
+// Icon and text are centred together. Gives the place of the text.
+QRect drawPlainButtonIcon(const QStyleOptionButton *option, QPainter *painter)
+{
+    const QSize icon = option->iconSize;
+    const int textWidth =
+        option->text.isEmpty() ? 0 : iconGap + option->fontMetrics.size(Qt::TextShowMnemonic, option->text).width();
+    const QRect label = QStyle::alignedRect(option->direction, Qt::AlignCenter,
+                                            QSize(icon.width() + textWidth, option->rect.height()), option->rect);
+    const QRect iconRect = QStyle::alignedRect(option->direction, Qt::AlignLeft | Qt::AlignVCenter, icon, label);
+    const bool isEnabled = option->state.testFlag(QStyle::State_Enabled);
+    option->icon.paint(painter, iconRect, Qt::AlignCenter, isEnabled ? QIcon::Normal : QIcon::Disabled,
+                       option->state.testFlag(QStyle::State_On) ? QIcon::On : QIcon::Off);
+    return QStyle::visualRect(option->direction, label, label.adjusted(icon.width() + iconGap, 0, 0, 0));
+}
+
 } // namespace
 
 void ButtonText::setColors(QPalette &palette, const CButtonEx *button)
@@ -386,12 +403,8 @@ void CCommonControlStyle::drawPushButtonLabel(const QStyleOption *option, QPaint
 {
     const auto *buttonOption = qstyleoption_cast<const QStyleOptionButton *>(option);
     const auto *button = qobject_cast<const CButtonEx *>(widget);
-    // The base also draws the icon that a plain button may have.
-    const bool plainWithIcon = buttonOption != nullptr && button == nullptr && !buttonOption->icon.isNull();
-    if (buttonOption == nullptr || plainWithIcon) {
-        QProxyStyle::drawControl(CE_PushButtonLabel, option, painter, widget);
-        return;
-    }
+    if (buttonOption == nullptr)
+        return QProxyStyle::drawControl(CE_PushButtonLabel, option, painter, widget);
     if (button != nullptr) {
         drawHouseButtonLabel(buttonOption, painter, button);
         return;
@@ -399,7 +412,8 @@ void CCommonControlStyle::drawPushButtonLabel(const QStyleOption *option, QPaint
     int flags = Qt::AlignCenter | Qt::TextShowMnemonic;
     if (proxy()->styleHint(SH_UnderlineShortcut, option, widget) == 0)
         flags |= Qt::TextHideMnemonic;
-    proxy()->drawItemText(painter, option->rect, flags, option->palette, option->state.testFlag(State_Enabled),
+    const QRect textRect = buttonOption->icon.isNull() ? option->rect : drawPlainButtonIcon(buttonOption, painter);
+    proxy()->drawItemText(painter, textRect, flags, option->palette, option->state.testFlag(State_Enabled),
                           buttonOption->text, QPalette::ButtonText);
 }
 

@@ -5,6 +5,8 @@
 
 #include <QStyleOptionSlider>
 
+#include <utility>
+
 namespace ScrollBarPainter {
 
 namespace {
@@ -47,7 +49,14 @@ void draw(QPainter *painter, const Look &look, const QStyleOptionComplex *option
         return PaintTools::stateKey(QLatin1String(element.key), slider, size);
     };
     // The two orientations must not share a picture; the groove's own key is the same for both.
-    const QLatin1String orientation(bar.horizontal ? "-horizontal" : "");
+    const QString orientation = bar.horizontal ? QStringLiteral("-horizontal") : QString();
+    Element backArrow = look.backArrow;
+    Element forwardArrow = look.forwardArrow;
+    QString ends = orientation;
+    if (bar.horizontal && slider->direction == Qt::RightToLeft) { // the way back is to the right
+        std::swap(backArrow.paint, forwardArrow.paint);
+        ends += QLatin1String("-mirrored");
+    }
 
     if (slider->subControls & QStyle::SC_ScrollBarGroove) {
         const QRect rect = slider->rect.adjusted(look.inset, 0, 0, 0);
@@ -55,12 +64,11 @@ void draw(QPainter *painter, const Look &look, const QStyleOptionComplex *option
     }
     if (slider->subControls & QStyle::SC_ScrollBarSubLine) {
         const QRect rect = rectOf(QStyle::SC_ScrollBarSubLine);
-        drawElement(painter, look.backArrow, look.isStored, bar, rect,
-                    keyOf(look.backArrow, rect.size()) + orientation);
+        drawElement(painter, backArrow, look.isStored, bar, rect, keyOf(backArrow, rect.size()) + ends);
     }
     if (slider->subControls & QStyle::SC_ScrollBarAddLine) {
-        drawElement(painter, look.forwardArrow, look.isStored, bar, rectOf(QStyle::SC_ScrollBarAddLine),
-                    keyOf(look.forwardArrow, forwardArrowKeySize) + orientation);
+        drawElement(painter, forwardArrow, look.isStored, bar, rectOf(QStyle::SC_ScrollBarAddLine),
+                    keyOf(forwardArrow, forwardArrowKeySize) + ends);
     }
     const QRect rect = rectOf(QStyle::SC_ScrollBarSlider);
     if ((slider->subControls & QStyle::SC_ScrollBarSlider) && rect.isValid())

@@ -82,10 +82,15 @@ void CCommonControlStyle::drawSpinBox(const QStyleOptionComplex *option, QPainte
         key += QLatin1String("-mirrored");
     if (qobject_cast<const QSpinBox *>(widget) == nullptr)
         key += QLatin1String("-frameless"); // the frame is for this widget alone
+    const bool hasButtons = spinBox->buttonSymbols != QAbstractSpinBox::NoButtons;
+    if (!hasButtons)
+        key += QLatin1String("-buttonless");
     const auto draw = [&](QPainter *picture, const QRect &area) {
         picture->fillRect(area, Qt::white);
         const QStyleOptionFrame frame = frameOption(*option, area);
         proxy()->drawPrimitive(PE_FrameLineEdit, &frame, picture, widget);
+        if (!hasButtons)
+            return;
         QStyleOptionSpinBox here = *spinBox;
         here.rect = area;
         drawButtons(picture, spinBox, proxy()->subControlRect(CC_SpinBox, &here, SC_SpinBoxUp, widget),

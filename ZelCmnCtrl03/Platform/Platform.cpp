@@ -1,10 +1,15 @@
 #include "Platform/Platform.h"
 
+#include <QCursor>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
+#include <QWindow>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -42,6 +47,29 @@ std::unique_ptr<QStyle> createNativeStyle()
     if (!native)
         native.reset(QStyleFactory::create(QStringLiteral("Fusion"))); // built into every Qt
     return native;
+}
+
+bool startWindowDrag(const QWidget *widget)
+{
+    QWindow *handle = widget->window()->windowHandle();
+    if (handle == nullptr || !handle->startSystemMove())
+        return false;
+    // On X11 the window manager keeps the release to itself, and Qt would go on sending every move to the widget that
+    // was pressed.
+    const QPointF pointer = QCursor::pos();
+    const QPointF local = handle->mapFromGlobal(pointer.toPoint());
+    QCoreApplication::postEvent(handle, new QMouseEvent(QEvent::MouseButtonRelease, local, pointer, Qt::LeftButton,
+                                                        Qt::NoButton, Qt::NoModifier));
+    return true;
+}
+
+void coverScreen(QWidget *window)
+{
+    const QScreen *screen = window->isWindow() ? window->screen() : nullptr;
+    if (screen == nullptr)
+        return;
+    const QRect area = screen->availableGeometry();
+    window->setGeometry(QRect(area.topLeft(), window->maximumSize().boundedTo(area.size())));
 }
 
 } // namespace Platform

@@ -7,6 +7,7 @@
 #include <memory>
 
 class QStyle;
+class QWidget;
 
 namespace Platform {
 
@@ -32,5 +33,23 @@ QString displayName(const QString &path);
  * palette. Never null.
  */
 std::unique_ptr<QStyle> createNativeStyle();
+
+/**
+ * Lets the window system move the widget's window with the pointer until the mouse button goes up. For a handler of a
+ * press of the left button; the widget that was pressed is told of a release soon after, whether the button is up or
+ * not.
+ *
+ * False when the window system cannot do that, or the window was never shown: nothing moves then.
+ */
+bool startWindowDrag(const QWidget *widget);
+
+/**
+ * Places a window, in its maximum size, at the top left corner of its screen, beside the bars that the system keeps
+ * there. It becomes no larger than the area that these leave.
+ *
+ * For frameless windows, which window managers maximize as they please: a splash screen often not at all. Does nothing
+ * for a widget that is no window.
+ */
+void coverScreen(QWidget *window);
 
 } // namespace Platform

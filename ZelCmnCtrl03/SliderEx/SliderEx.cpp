@@ -1,5 +1,6 @@
 #include "SliderEx/SliderEx.h"
 
+#include "SliderEx/SliderKeys.h"
 #include "include/qt_globals.h"
 
 #include <QImage>
@@ -12,32 +13,9 @@
 
 namespace {
 
-constexpr int keyStep = 1;
-constexpr int pageKeyStep = 10;
-
 // Half the width of the drawn handle: a click gets the handle's middle, not its edge. On every slider, since a caller's
 // positions count on it.
 constexpr QPoint clickOffset(5, 0);
-
-struct KeyStep
-{
-    int key;
-    int step;
-};
-
-constexpr KeyStep keySteps[] = {
-    {Qt::Key_Left, -keyStep}, {Qt::Key_Down, -keyStep},      {Qt::Key_Right, keyStep},
-    {Qt::Key_Up, keyStep},    {Qt::Key_PageUp, pageKeyStep}, {Qt::Key_PageDown, -pageKeyStep},
-};
-
-// 0 for a key that moves nothing.
-int stepOfKey(int key)
-{
-    for (const KeyStep &entry : keySteps)
-        if (entry.key == key)
-            return entry.step;
-    return 0;
-}
 
 } // namespace
 
@@ -114,7 +92,7 @@ void CSliderEx::wheelEvent(QWheelEvent *event)
 void CSliderEx::keyPressEvent(QKeyEvent *event)
 {
     ZEL_LOG_SCOPE;
-    const int step = stepOfKey(event->key());
+    const int step = SliderKeys::stepOf(event->key());
     if (step == 0) {
         event->ignore();
         return;

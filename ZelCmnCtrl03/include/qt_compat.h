@@ -13,6 +13,15 @@
 #include <QEnterEvent>
 #endif
 
+// An operation whose base is virtual on one major only.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#define ZEL_OVERRIDE_ON_QT5
+#define ZEL_OVERRIDE_ON_QT6 override
+#else
+#define ZEL_OVERRIDE_ON_QT5 override
+#define ZEL_OVERRIDE_ON_QT6
+#endif
+
 namespace zel {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

@@ -107,11 +107,14 @@ public:
     }
     Q_DISABLE_COPY(LogScope)
 
+    /** No exit record: another one has told how the operation ended. */
+    void leaveOutExit() { m_pSite = nullptr; }
+
 private:
     // Static, so that the scope's address never leaves the function and the scope can live in a register.
     static void write(const LogSite &site, LogLevel level);
 
-    const LogSite *const m_pSite;
+    const LogSite *m_pSite;
 };
 
 /** Records an exception that was caught; never throws itself. */
@@ -122,14 +125,25 @@ void logError(const QString &text);
 
 } // namespace zel
 
-/** First line of an operation: brackets it with an entry and an exit record of the component. */
+/** First line of an operation: brackets it with an entry and an exit record of the message. */
+#define ZEL_LOG_SCOPE_SAYING(message, component)                                                                       \
+    static constexpr auto zelSourceName = zel::sourceName(__FILE__);                                                   \
+    static constexpr zel::LogSite zelLogSite{message, component, zelSourceName.text, __LINE__};                        \
+    zel::LogScope zelLogScope(zelLogSite)
+
+/** The same with the name of the function as the message. */
 #define ZEL_LOG_SCOPE_OF(component)                                                                                    \
     static constexpr auto zelFunctionName = zel::functionName(Q_FUNC_INFO);                                            \
-    static constexpr auto zelSourceName = zel::sourceName(__FILE__);                                                   \
-    static constexpr zel::LogSite zelLogSite{zelFunctionName.text, component, zelSourceName.text, __LINE__};           \
-    const zel::LogScope zelLogScope(zelLogSite)
+    ZEL_LOG_SCOPE_SAYING(zelFunctionName.text, component)
 
 #define ZEL_LOG_SCOPE ZEL_LOG_SCOPE_OF(zel::CommonControls)
+
+/** Where an operation refuses: one detail record in place of the exit record of its scope. */
+#define ZEL_LOG_REFUSAL(message)                                                                                       \
+    do {                                                                                                               \
+        ZEL_LOG(zel::LogDetail, zel::CommonControls, message);                                                         \
+        zelLogScope.leaveOutExit();                                                                                    \
+    } while (false)
 
 /** One record; the message is built only when its level is wanted. */
 #define ZEL_LOG(level, component, message)                                                                             \

@@ -117,24 +117,37 @@ void tst_SliderPainter::geometry_data()
     QTest::addColumn<int>("position");
     QTest::addColumn<QRect>("expected");
     QTest::addColumn<int>("towards"); // times the tick mark offset, across the slider
+    QTest::addColumn<bool>("upsideDown");
+    QTest::addColumn<QPoint>("topLeft"); // of the slider
     const QSize none;
     const auto ltr = Qt::LeftToRight;
-    QTest::newRow("start") << Qt::Horizontal << ltr << none << QSlider::NoTicks << 0 << QRect(1, 6, 10, 18) << 0;
-    QTest::newRow("end") << Qt::Horizontal << ltr << none << QSlider::NoTicks << 100 << QRect(189, 6, 10, 18) << 0;
-    QTest::newRow("above") << Qt::Horizontal << ltr << none << QSlider::TicksAbove << 0 << QRect(1, 6, 10, 18) << 1;
-    QTest::newRow("below") << Qt::Horizontal << ltr << none << QSlider::TicksBelow << 0 << QRect(1, 6, 10, 18) << -1;
-    QTest::newRow("both") << Qt::Horizontal << ltr << none << QSlider::TicksBothSides << 0 << QRect(1, 6, 10, 18) << 0;
-    QTest::newRow("right to left") << Qt::Horizontal << Qt::RightToLeft << none << QSlider::NoTicks << 0
-                                   << QRect(189, 6, 10, 18) << 0;
-    QTest::newRow("knob") << Qt::Horizontal << ltr << QSize(20, 30) << QSlider::NoTicks << 0 << QRect(1, 0, 20, 30)
-                          << 0;
-    QTest::newRow("vertical") << Qt::Vertical << ltr << none << QSlider::NoTicks << 0 << QRect(6, 0, 18, 10) << 0;
-    QTest::newRow("vertical, left") << Qt::Vertical << ltr << none << QSlider::TicksLeft << 0 << QRect(6, 0, 18, 10)
-                                    << 1;
-    QTest::newRow("vertical, right to left")
-        << Qt::Vertical << Qt::RightToLeft << none << QSlider::TicksRight << 0 << QRect(6, 0, 18, 10) << -1;
-    QTest::newRow("vertical knob") << Qt::Vertical << ltr << QSize(20, 30) << QSlider::NoTicks << 0
-                                   << QRect(0, 0, 30, 20) << 0;
+    const auto row = [](const char *name, Qt::Orientation orientation, Qt::LayoutDirection direction, QSize knob,
+                        QSlider::TickPosition ticks, int position, QRect expected, int towards, bool upsideDown = false,
+                        QPoint topLeft = QPoint()) {
+        QTest::newRow(name) << orientation << direction << knob << ticks << position << expected << towards
+                            << upsideDown << topLeft;
+    };
+    const auto rtl = Qt::RightToLeft;
+    const auto h = Qt::Horizontal;
+    const auto v = Qt::Vertical;
+    row("start", h, ltr, none, QSlider::NoTicks, 0, QRect(1, 6, 10, 18), 0);
+    row("end", h, ltr, none, QSlider::NoTicks, 100, QRect(189, 6, 10, 18), 0);
+    row("above", h, ltr, none, QSlider::TicksAbove, 0, QRect(1, 6, 10, 18), 1);
+    row("below", h, ltr, none, QSlider::TicksBelow, 0, QRect(1, 6, 10, 18), -1);
+    row("both", h, ltr, none, QSlider::TicksBothSides, 0, QRect(1, 6, 10, 18), 0);
+    row("right to left", h, rtl, none, QSlider::NoTicks, 0, QRect(189, 6, 10, 18), 0);
+    row("upside down", h, ltr, none, QSlider::NoTicks, 25, QRect(142, 6, 10, 18), 0, true);
+    // Along the slider a place counts from the painter's origin, but a mirrored one from the slider's far end.
+    row("elsewhere", h, ltr, none, QSlider::NoTicks, 0, QRect(1, 9, 10, 18), 0, false, QPoint(7, 3));
+    row("elsewhere, right to left", h, rtl, none, QSlider::NoTicks, 0, QRect(203, 9, 10, 18), 0, false, QPoint(7, 3));
+    row("knob", h, ltr, QSize(20, 30), QSlider::NoTicks, 0, QRect(1, 0, 20, 30), 0);
+    row("vertical", v, ltr, none, QSlider::NoTicks, 0, QRect(6, 0, 18, 10), 0);
+    row("vertical, end", v, ltr, none, QSlider::NoTicks, 100, QRect(6, 190, 18, 10), 0);
+    row("vertical, upside down", v, ltr, none, QSlider::NoTicks, 100, QRect(6, 0, 18, 10), 0, true);
+    row("vertical, elsewhere", v, rtl, none, QSlider::NoTicks, 0, QRect(13, 0, 18, 10), 0, false, QPoint(7, 3));
+    row("vertical, left", v, ltr, none, QSlider::TicksLeft, 0, QRect(6, 0, 18, 10), 1);
+    row("vertical, right to left", v, rtl, none, QSlider::TicksRight, 0, QRect(6, 0, 18, 10), -1);
+    row("vertical knob", v, ltr, QSize(20, 30), QSlider::NoTicks, 0, QRect(0, 0, 30, 20), 0);
 }
 
 void tst_SliderPainter::geometry()
@@ -146,17 +159,23 @@ void tst_SliderPainter::geometry()
     QFETCH(int, position);
     QFETCH(QRect, expected);
     QFETCH(int, towards);
+    QFETCH(bool, upsideDown);
+    QFETCH(QPoint, topLeft);
     const bool isHorizontal = orientation == Qt::Horizontal;
     QStyleOptionSlider option = optionFor(orientation, isHorizontal ? QSize(200, 31) : QSize(31, 200), ticks);
+    option.rect.moveTopLeft(topLeft);
     option.direction = direction;
     option.sliderPosition = position;
+    option.upsideDown = upsideDown;
     CSliderEx slider(nullptr);
     if (!knob.isEmpty())
         slider.setKnobImage(QPixmap(knob));
     const int shift = towards * m_style->pixelMetric(QStyle::PM_SliderTickmarkOffset, &option, &slider);
     const int frame = m_style->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    // An upright handle keeps the frame's width from both ends.
+    const int along = !isHorizontal && (position == 100) != upsideDown ? -frame : frame;
     QCOMPARE(handleOf(option, &slider),
-             isHorizontal ? expected.translated(0, shift) : expected.translated(shift, frame));
+             isHorizontal ? expected.translated(0, shift) : expected.translated(shift, along));
 }
 
 void tst_SliderPainter::groovePixels()
@@ -235,9 +254,13 @@ void tst_SliderPainter::verticalHandle()
     QCOMPARE(Picture::colorAt(pointsRight, 16, 5), ground);
     QVERIFY(pointsRight.pixelColor(5, 2).lightness() > pointsRight.pixelColor(5, 8).lightness());
     QVERIFY(pointsRight.pixelColor(5, 2).lightness() > button.lightness());
-    option.tickPosition = QSlider::TicksBothSides;
+    for (const auto ticks : {QSlider::TicksBothSides, QSlider::TicksRight}) {
+        option.tickPosition = ticks;
+        QCOMPARE(Picture::colorAt(handle(), 16, 3), ground); // two pixels lower, and still points to the right
+        QVERIFY(Picture::colorAt(handle(), 12, 7) != ground && Picture::colorAt(handle(), 2, 7) != ground);
+    }
     option.state = QStyle::State_None;
-    QCOMPARE(Picture::colorAt(handle(), 5, 5), ground); // disabled: filled like the ground
+    QCOMPARE(handle().pixelColor(5, 7), window); // disabled: filled like the ground
     option.state = QStyle::State_Enabled;
     option.tickPosition = QSlider::TicksLeft;
     // Mirrored like every handle with ticks above, but there is no difference at half the height.
@@ -277,9 +300,11 @@ void tst_SliderPainter::knobReplacesHandle()
 void tst_SliderPainter::partGround()
 {
     QStyleOptionSlider option = partOption(QStyle::SC_SliderHandle, Qt::Horizontal, QSize(100, 31));
-    QLinearGradient gradient(0, 0, 100, 0);
-    option.palette.setBrush(QPalette::Window, gradient);
-    QCOMPARE(paint(option).pixelColor(handleOf(option).topLeft()).alpha(), 0);
+    for (const QGradient &gradient : std::initializer_list<QGradient>{
+             QLinearGradient(0, 0, 100, 0), QRadialGradient(50, 15, 60), QConicalGradient(50, 15, 0)}) {
+        option.palette.setBrush(QPalette::Window, gradient);
+        QCOMPARE(paint(option).pixelColor(handleOf(option).topLeft()).alpha(), 0);
+    }
 }
 
 // The slider is 112 wide, so tick marks go from 5 to 106, with 55 in the middle.
@@ -352,10 +377,18 @@ void tst_SliderPainter::everySizeIsSafe()
     for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
         for (const auto ticks : {QSlider::NoTicks, QSlider::TicksAbove, QSlider::TicksBothSides}) {
             for (int size = 0; size < 14; ++size) {
-                const QStyleOptionSlider option = optionFor(orientation, QSize(size, 13 - size), ticks);
-                Picture::of(QSize(20, 20), [&](QPainter *painter) {
-                    m_style->drawComplexControl(QStyle::CC_Slider, &option, painter, nullptr);
-                });
+                QStyleOptionSlider option = optionFor(orientation, QSize(size, 13 - size), ticks);
+                option.rect.translate(20, 20);
+                const auto painted = [&] {
+                    return Picture::of(QSize(60, 60), [&](QPainter *painter) {
+                        m_style->drawComplexControl(QStyle::CC_Slider, &option, painter, nullptr);
+                    });
+                };
+                painted();
+                // The lines of a groove that is too narrow for them have crossed.
+                option.subControls = QStyle::SC_SliderGroove;
+                const QRect groove = m_style->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove);
+                QVERIFY(!Picture::paintsOutside(painted(), groove));
             }
         }
     }
@@ -364,7 +397,7 @@ void tst_SliderPainter::everySizeIsSafe()
     wrong.rect = QRect(0, 0, 100, 30);
     const QImage image = Picture::of(
         QSize(100, 30), [&](QPainter *painter) { m_style->drawComplexControl(QStyle::CC_Slider, &wrong, painter); });
-    QVERIFY(!Picture::paintsOutside(image, QRect()));
+    QVERIFY(Picture::isBlank(image));
 }
 
 HOUSE_TEST_MAIN(tst_SliderPainter)

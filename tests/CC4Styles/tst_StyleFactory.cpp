@@ -4,8 +4,17 @@
 #include "CC4Styles/CC4StyleFactory.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QMenu>
 #include <QPointer>
+#include <QProcess>
+#include <QScrollBar>
+#include <QSpinBox>
 #include <QStyleFactory>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include <memory>
 
 namespace {
 
@@ -15,6 +24,43 @@ QString baseName()
 {
     const auto *style = qobject_cast<const QProxyStyle *>(QApplication::style());
     return style != nullptr ? QString::fromLatin1(style->baseStyle()->metaObject()->className()) : QString();
+}
+
+/** What an application has on the screen: a window with controls, a menu, a tool tip. */
+struct Screen
+{
+    Screen() : button(&window), comboBox(&window), spinBox(&window), scrollBar(&window)
+    {
+        window.show();
+        menu.addAction(QStringLiteral("Entry"));
+        menu.popup(window.mapToGlobal(QPoint(5, 5)));
+        QToolTip::showText(window.mapToGlobal(QPoint(5, 5)), QStringLiteral("A tip of words. ").repeated(40), &window);
+    }
+
+    // Everything is painted, and nothing of what was posted is left.
+    void use()
+    {
+        window.grab();
+        menu.grab();
+        menu.adjustSize();
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (widget->inherits("QTipLabel"))
+                widget->grab();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+
+    QWidget window;
+    CButtonEx button;
+    QComboBox comboBox;
+    QSpinBox spinBox;
+    QScrollBar scrollBar;
+    QMenu menu;
+};
+
+void setSheet(const char *sheet)
+{
+    static_cast<QApplication *>(QApplication::instance())->setStyleSheet(QLatin1String(sheet));
 }
 
 } // namespace
@@ -31,6 +77,9 @@ private Q_SLOTS:
     void unknownKindsGiveNothing();
     void buttonsShareOneStyle();
     void survivesAnApplicationThatChangesItsStyle();
+    void changesUnderOpenWindows();
+    void styleOfOneWidget();
+    void leavesWithOpenWindows();
     void standsOnTheExpectedBase();
 };
 
@@ -137,6 +186,57 @@ void tst_StyleFactory::survivesAnApplicationThatChangesItsStyle()
     const CButtonEx after;
     QVERIFY(qobject_cast<CCommonControlStyle *>(after.style()) != nullptr);
     QCOMPARE(QApplication::style(), after.style());
+}
+
+void tst_StyleFactory::changesUnderOpenWindows()
+{
+    Screen screen;
+    QVERIFY(screen.menu.isVisible());
+    screen.use();
+    for (int round = 0; round < 2; ++round) {
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        screen.use();
+        const QStyle *house = CC4StyleFactory::getStyle(mainStyle);
+        screen.use();
+        QCOMPARE(screen.comboBox.style(), house);
+        QVERIFY(screen.comboBox.testAttribute(Qt::WA_Hover));
+
+        setSheet("QPushButton { color: red } QToolTip { color: blue }");
+        screen.use();
+        QVERIFY(screen.comboBox.style() != house);
+        setSheet("");
+        screen.use();
+        QCOMPARE(QApplication::style(), house);
+        QCOMPARE(screen.comboBox.style(), house);
+        CC4StyleFactory::releaseStyle(mainStyle);
+    }
+}
+
+void tst_StyleFactory::styleOfOneWidget()
+{
+    Screen screen;
+    QStyle *house = QApplication::style();
+    auto own = std::make_unique<CBlueScrollBarStyle>();
+    screen.scrollBar.setStyle(own.get());
+    screen.use();
+    QCOMPARE(screen.scrollBar.style(), own.get());
+    setSheet("QLabel { color: red }"); // takes its place, and gives it back
+    screen.use();
+    setSheet("");
+    QCOMPARE(screen.scrollBar.style(), own.get());
+    own.reset();
+    screen.use();
+    QCOMPARE(screen.scrollBar.style(), house);
+}
+
+void tst_StyleFactory::leavesWithOpenWindows()
+{
+    QProcess probe;
+    probe.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    probe.start(QStringLiteral(LEAVING_PROBE), QStringList());
+    QVERIFY(probe.waitForFinished());
+    QCOMPARE(probe.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(probe.exitCode(), 0);
 }
 
 void tst_StyleFactory::standsOnTheExpectedBase()

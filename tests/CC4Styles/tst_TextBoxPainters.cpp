@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QMap>
 #include <QSpinBox>
 #include <QTemporaryDir>
 
@@ -17,8 +16,8 @@
 
 namespace {
 
-using Layers = QList<QColor>; // from the ground up
-using Legend = QMap<QChar, Layers>;
+using Picture::Layers;
+using Picture::Legend;
 
 const QColor red(0xF0, 0x10, 0x10);
 const QColor green(0x20, 0xE0, 0x20);
@@ -113,36 +112,6 @@ Legend transparentLegend(const QList<Alphas> &passes)
     return legend;
 }
 
-/** The picture that the rows of letters describe, over the ground. */
-QImage expected(const char *letters, const Legend &legend)
-{
-    const QStringList rows = QString::fromLatin1(letters).split(QLatin1Char('\n')).mid(1);
-    const QSize size(static_cast<int>(rows.constFirst().size()), static_cast<int>(rows.size()));
-    return Picture::of(size, [&](QPainter *painter) {
-        painter->fillRect(QRect(QPoint(0, 0), size), ground);
-        for (int y = 0; y < size.height(); ++y) {
-            for (int x = 0; x < size.width(); ++x)
-                for (const QColor &layer : legend.value(rows.at(y).at(x)))
-                    painter->fillRect(x, y, 1, 1, layer);
-        }
-    });
-}
-
-void compare(const QImage &actual, const QImage &wanted)
-{
-    QCOMPARE(actual.size(), wanted.size());
-    for (int y = 0; y < actual.height(); ++y) {
-        for (int x = 0; x < actual.width(); ++x)
-            QVERIFY2(actual.pixel(x, y) == wanted.pixel(x, y),
-                     qPrintable(QStringLiteral("(%1, %2): %3 in place of %4")
-                                    .arg(x)
-                                    .arg(y)
-                                    .arg(Picture::colorAt(actual, x, y), Picture::colorAt(wanted, x, y))));
-    }
-}
-
-using Pointer::enter;
-
 void giveFocus(QWidget &widget)
 {
     QFocusEvent event(QEvent::FocusIn);
@@ -218,7 +187,7 @@ void tst_TextBoxPainters::normalFrameIsOneForAllStates()
 {
     CTextBoxEx box;
     QStyleOption option; // of no special type
-    const QImage wanted = expected(normalFrame, normalLegend());
+    const QImage wanted = Picture::fromLetters(normalFrame, normalLegend(), ground);
     option.rect = wanted.rect();
     const auto frame = [&](const QWidget *widget) {
         return Picture::of(wanted.size(), [&](QPainter *painter) {
@@ -226,30 +195,29 @@ void tst_TextBoxPainters::normalFrameIsOneForAllStates()
             m_style->drawNormalTextBox(&option, painter, widget);
         });
     };
-    compare(frame(nullptr), wanted);
-    enter(box);
+    QCOMPARE(Picture::difference(frame(nullptr), wanted), QString());
+    Pointer::enter(box);
     giveFocus(box);
     box.setEnabled(false);
-    compare(frame(&box), wanted);
+    QCOMPARE(Picture::difference(frame(&box), wanted), QString());
 }
 
 void tst_TextBoxPainters::transparentFrames()
 {
     CTextBoxEx box;
-    const auto check = [&](const QList<Alphas> &passes) {
-        const QImage wanted = expected(transparentFrame, transparentLegend(passes));
-        compare(panel(&box, wanted.size()), wanted);
+    const auto differenceTo = [&](const QList<Alphas> &passes) {
+        const QImage wanted = Picture::fromLetters(transparentFrame, transparentLegend(passes), ground);
+        return Picture::difference(panel(&box, wanted.size()), wanted);
     };
-    check({resting});
+    QCOMPARE(differenceTo({resting}), QString());
     box.setReadOnly(true); // makes no difference
-    check({resting});
-    enter(box);
-    check({hovered});
+    QCOMPARE(differenceTo({resting}), QString());
+    Pointer::enter(box);
+    QCOMPARE(differenceTo({hovered}), QString());
     giveFocus(box);
-    check({hovered, focussed});
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(&box, &leave);
-    check({resting, focussed});
+    QCOMPARE(differenceTo({hovered, focussed}), QString());
+    Pointer::leave(box);
+    QCOMPARE(differenceTo({resting, focussed}), QString());
 }
 
 void tst_TextBoxPainters::panels_data()
@@ -292,9 +260,13 @@ void tst_TextBoxPainters::spinBoxFrame()
     const auto draw = [&](QPainter *painter) {
         m_style->drawPrimitive(QStyle::PE_FrameLineEdit, &option, painter, &spinBox);
     };
-    compare(Picture::of(option.rect.size(), draw), expected(frame, {{'R', {red}}, {'G', {green}}}));
+    const auto differenceTo = [&](const Layers &inside) {
+        return Picture::difference(Picture::of(option.rect.size(), draw),
+                                   Picture::fromLetters(frame, {{'R', {red}}, {'G', inside}}));
+    };
+    QCOMPARE(differenceTo({green}), QString());
     option.state = QStyle::State_None; // disabled
-    compare(Picture::of(option.rect.size(), draw), expected(frame, {{'R', {red}}, {'G', {green, faint(red, 10)}}}));
+    QCOMPARE(differenceTo({green, faint(red, 10)}), QString());
 }
 
 void tst_TextBoxPainters::wrongOptionOrWidgetPaintsNothing()
@@ -308,7 +280,7 @@ void tst_TextBoxPainters::wrongOptionOrWidgetPaintsNothing()
         m_style->drawPrimitive(QStyle::PE_FrameLineEdit, &option, painter, &box);
         m_style->drawTransparentTextBox(&option, painter, &plain);
     });
-    QVERIFY(!Picture::paintsOutside(image, QRect()));
+    QVERIFY(Picture::isBlank(image));
 }
 
 void tst_TextBoxPainters::drawBoth(QPainter *painter, const QStyleOption &option, const QWidget &box) const
@@ -321,17 +293,16 @@ void tst_TextBoxPainters::pixelsStayWhole()
 {
     const CTextBoxEx box;
     const QStyleOptionFrame option = frameOption(QSize(30, 20));
-    const auto draw = [&](QPainter *painter) {
-        painter->setRenderHint(QPainter::Antialiasing); // as the text painting of the style leaves it
-        drawBoth(painter, option, box);
-        QVERIFY(painter->testRenderHint(QPainter::Antialiasing));
+    const auto drawn = [&](qreal ratio, bool antialiased) {
+        const auto draw = [&](QPainter *painter) {
+            painter->setRenderHint(QPainter::Antialiasing, antialiased); // the style's text painting leaves it on
+            drawBoth(painter, option, box);
+            QCOMPARE(painter->testRenderHint(QPainter::Antialiasing), antialiased);
+        };
+        return Picture::of(option.rect.size(), draw, ratio);
     };
-    const QImage normal = Picture::of(option.rect.size(), draw);
-    for (const qreal ratio : {2.0, 3.0}) {
-        QImage dense = Picture::of(option.rect.size(), draw, ratio);
-        dense.setDevicePixelRatio(1.0);
-        compare(dense, normal.scaled(dense.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation));
-    }
+    QCOMPARE(Picture::difference(drawn(1.5, true), drawn(1.5, false)), QString());
+    QCOMPARE(Picture::difference(drawn(2.0, true), drawn(1.0, true).scaled(option.rect.size() * 2)), QString());
 }
 
 void tst_TextBoxPainters::smallAndMovedFramesStayInside()
@@ -353,7 +324,7 @@ void tst_TextBoxPainters::smallAndMovedFramesStayInside()
                 m_style->drawPrimitive(QStyle::PE_FrameLineEdit, &option, painter, &spinBox);
             });
             QVERIFY(!Picture::paintsOutside(image, option.rect));
-            QCOMPARE(Picture::paintsOutside(image, QRect()), !option.rect.isEmpty());
+            QCOMPARE(Picture::isBlank(image), option.rect.isEmpty());
         }
     }
 }
@@ -368,7 +339,7 @@ void tst_TextBoxPainters::crossedAndLongLines()
     const auto drawn = [&rect](const auto &table) {
         return Picture::of(QSize(12, 12), [&](QPainter *painter) { PixelTable::draw(painter, rect, table); });
     };
-    QVERIFY(!Picture::paintsOutside(drawn(crossed), QRect()));
+    QVERIFY(Picture::isBlank(drawn(crossed)));
     QVERIFY(!Picture::paintsOutside(drawn(tooLong), rect));
     QCOMPARE(drawn(tooLong).pixelColor(4, 0), red);
 }

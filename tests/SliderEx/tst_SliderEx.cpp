@@ -141,7 +141,7 @@ void tst_SliderEx::clickPlaces()
     CSliderEx slider(nullptr);
     prepare(slider, orientation, orientation == Qt::Horizontal ? QSize(200, 30) : QSize(30, 200));
     slider.setInvertedAppearance(inverted);
-    slider.setValue(99 - expected / 2); // elsewhere
+    slider.setValue(100 - expected); // elsewhere; that is on the handle of an upright slider, which grows upwards
     if (knobWidth > 0)
         slider.setKnobImage(knob(knobWidth, 20));
     QList<int> values;
@@ -228,11 +228,9 @@ void tst_SliderEx::cursorAndFocusFrame()
     } style;
     CSliderEx slider(nullptr);
     slider.setStyle(&style);
-    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-    QCoreApplication::sendEvent(&slider, &enter);
+    Pointer::enter(slider);
     QCOMPARE(slider.cursor().shape(), Qt::PointingHandCursor);
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(&slider, &leave);
+    Pointer::leave(slider);
     QCOMPARE(slider.cursor().shape(), Qt::ArrowCursor);
 
     slider.grab();
@@ -266,9 +264,19 @@ void tst_SliderEx::knobImages()
     QVERIFY(slider.knobImage().isNull());
     slider.grab();
     QCOMPARE(slider.handleRect().size(), QSize(10, 18));
+
+    slider.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&slider));
+    QCoreApplication::processEvents();
+    PaintCounter counter;
+    slider.installEventFilter(&counter);
     slider.setKnobImage(knob(8, 12));
-    slider.grab();
+    QTRY_VERIFY(counter.paints > 0);
     QCOMPARE(slider.handleRect().size(), QSize(8, 12));
+    QVERIFY(knob(9, 9).save(path));
+    counter.paints = 0;
+    slider.setKnobImage(path);
+    QTRY_VERIFY(counter.paints > 0);
 }
 
 HOUSE_TEST_MAIN(tst_SliderEx)

@@ -12,35 +12,11 @@
 
 namespace {
 
-void enter(QWidget &widget)
+void sendFocus(QWidget &widget, QEvent::Type type)
 {
-    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QFocusEvent event(type, Qt::TabFocusReason);
     QCoreApplication::sendEvent(&widget, &event);
 }
-
-void send(QWidget &widget, QEvent::Type type)
-{
-    if (type == QEvent::FocusIn || type == QEvent::FocusOut) {
-        QFocusEvent event(type, Qt::TabFocusReason);
-        QCoreApplication::sendEvent(&widget, &event);
-        return;
-    }
-    QEvent event(type);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-/** Counts the paint events of a widget. */
-class PaintCounter : public QObject
-{
-public:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int paints = 0;
-};
 
 } // namespace
 
@@ -53,7 +29,7 @@ private Q_SLOTS:
     void textColours_data();
     void textColours();
     void signalsInOrder();
-    void eventsSetFlagsAndRepaint();
+    void pointerSetsFlagAndRepaints();
     void givesStyleBack();
 };
 
@@ -123,14 +99,14 @@ void tst_TextBoxEx::signalsInOrder()
     connect(
         &box, &CTextBoxEx::focusOut, this, [&] { record("out"); });
     connect(&box, &QLineEdit::editingFinished, this, [&] { record("finished"); });
-    send(box, QEvent::FocusIn);
+    sendFocus(box, QEvent::FocusIn);
     box.deselect();
-    send(box, QEvent::FocusOut);
+    sendFocus(box, QEvent::FocusOut);
     const QStringList wanted{QStringLiteral("in focussed selected"), QStringLiteral("finished"), QStringLiteral("out")};
     QCOMPARE(events, wanted);
 }
 
-void tst_TextBoxEx::eventsSetFlagsAndRepaint()
+void tst_TextBoxEx::pointerSetsFlagAndRepaints()
 {
     QWidget window;
     CTextBoxEx box(&window);
@@ -146,11 +122,8 @@ void tst_TextBoxEx::eventsSetFlagsAndRepaint()
         change();
         return QTest::qWaitFor([&] { return counter.paints > 0; }, 2000);
     };
-    QVERIFY(repaintsAfter([&] { enter(box); }) && box.isMouseOver() && !box.isFocussed());
-    QVERIFY(repaintsAfter([&] { send(box, QEvent::Leave); }) && !box.isMouseOver());
-    QVERIFY(repaintsAfter([&] { send(box, QEvent::FocusIn); }) && box.isFocussed());
-    QVERIFY(repaintsAfter([&] { send(box, QEvent::FocusOut); }) && !box.isFocussed());
-    QVERIFY(repaintsAfter([&] { box.setLineEditStyle(CTextBoxEx::LineEditTransparent); }));
+    QVERIFY(repaintsAfter([&] { Pointer::enter(box); }) && box.isMouseOver() && !box.isFocussed());
+    QVERIFY(repaintsAfter([&] { Pointer::leave(box); }) && !box.isMouseOver());
 }
 
 void tst_TextBoxEx::givesStyleBack()

@@ -25,6 +25,11 @@ struct Speaker
         zel::logError(QStringLiteral("passed over"));
         zel::logException(QStringLiteral("caught"));
     }
+    static void refuse()
+    {
+        ZEL_LOG_SCOPE_SAYING(u"refuse - said", zel::CommonControls);
+        ZEL_LOG_REFUSAL(QStringLiteral("refused"));
+    }
 };
 
 } // namespace
@@ -70,18 +75,21 @@ void tst_LogScope::sourceNames()
 void tst_LogScope::recordsOfAScope()
 {
     Speaker::speak();
+    Speaker::refuse();
     QFile file(logDirectory.filePath(QStringLiteral("log")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QStringList records;
     for (const QString &line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        records.append(line.section(QRegularExpression(QStringLiteral("(trace|warning|error) +")), 1));
-    QCOMPARE(records.size(), 4);
+        records.append(line.section(QRegularExpression(QStringLiteral("(trace|debug|warning|error) +")), 1));
+    QCOMPARE(records.size(), 6);
     const QRegularExpression scope(
         QStringLiteral(R"(^[12] CommonControls \..*tst_LogScope\(\d+\): \S*Speaker::speak$)"));
     QVERIFY2(scope.match(records.first()).hasMatch(), qPrintable(records.first()));
-    QCOMPARE(records.last(), QLatin1Char('2') + records.first().mid(1)); // the same but for the level
+    QCOMPARE(records.at(3), QLatin1Char('2') + records.first().mid(1)); // the same but for the level
     QVERIFY(records.at(1).startsWith(QLatin1String("5 Unknown .\\include\\qt_globals(")));
     QVERIFY(records.at(2).startsWith(QLatin1String("4 Unknown .\\include\\qt_globals(")));
+    QVERIFY(records.at(4).startsWith(QLatin1Char('1')) && records.at(4).endsWith(QLatin1String(": refuse - said")));
+    QVERIFY(records.at(5).startsWith(QLatin1Char('6')) && records.at(5).endsWith(QLatin1String(": refused")));
 }
 
 HOUSE_TEST_MAIN(tst_LogScope)

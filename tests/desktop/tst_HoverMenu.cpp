@@ -1,4 +1,5 @@
 // The glowing button and its menu under a real pointer, in real windows.
+#include "desktop/RealPointer.h"
 #include "helpers/HouseTest.h"
 
 #include "ButtonEx/ButtonEx.h"
@@ -7,26 +8,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
 
 namespace {
-
-void xdotool(const QStringList &arguments)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
-}
-
-void movePointer(const QPoint &global)
-{
-    xdotool({QStringLiteral("mousemove"), QString::number(global.x()), QString::number(global.y())});
-}
-
-void click(int button)
-{
-    xdotool({QStringLiteral("click"), QString::number(button)});
-}
 
 // The menu opens over the upper part of its button, this corner stays free.
 QPoint freeCornerOf(const QWidget &button)
@@ -93,8 +78,8 @@ void tst_HoverMenu::init()
     m_other = addButton(400, m_otherMenu);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    movePointer(away());
-    click(1);
+    RealPointer::moveTo(away());
+    RealPointer::click(1);
     QTRY_VERIFY(QApplication::activeWindow() == m_window.get());
 }
 
@@ -117,7 +102,7 @@ void tst_HoverMenu::takePicture(const char *step) const
 void tst_HoverMenu::unrollsUnderThePointerAndClosesByItself()
 {
     takePicture("0-rest");
-    movePointer(freeCornerOf(*m_button));
+    RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(m_menu->isVisible());
     QVERIFY(m_menu->height() < m_menu->sizeHint().height());
     QTRY_VERIFY(m_menu->height() > m_menu->sizeHint().height() / 2);
@@ -128,7 +113,7 @@ void tst_HoverMenu::unrollsUnderThePointerAndClosesByItself()
 
     QElapsedTimer clock;
     clock.start();
-    movePointer(away());
+    RealPointer::moveTo(away());
     QTRY_VERIFY_WITH_TIMEOUT(!m_menu->isVisible(), 4000);
     QVERIFY2(clock.elapsed() >= 1000, qPrintable(QString::number(clock.elapsed())));
     QTRY_VERIFY(m_button->getGlowAlpha() < 0.05F);
@@ -137,27 +122,27 @@ void tst_HoverMenu::unrollsUnderThePointerAndClosesByItself()
 
 void tst_HoverMenu::staysUnderThePointer()
 {
-    movePointer(freeCornerOf(*m_button));
+    RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(isUnrolled(*m_menu));
-    movePointer(entry(3));
+    RealPointer::moveTo(entry(3));
     QTRY_VERIFY(m_menu->cursorOnMenu());
     QTRY_COMPARE(m_menu->activeAction(), m_menu->actions().at(3));
     takePicture("1-on-menu");
     VERIFY_HOLDS_FOR(m_menu->isVisible(), 2000);
-    movePointer(away());
+    RealPointer::moveTo(away());
     QTRY_VERIFY_WITH_TIMEOUT(!m_menu->isVisible(), 4000);
 }
 
 void tst_HoverMenu::entryIsChosenByClick()
 {
     const QSignalSpy chosen(m_menu, &QMenu::triggered);
-    movePointer(freeCornerOf(*m_button));
+    RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(isUnrolled(*m_menu));
-    movePointer(entry(2));
+    RealPointer::moveTo(entry(2));
     QTRY_COMPARE(m_menu->activeAction(), m_menu->actions().at(2));
-    click(3);
+    RealPointer::click(3);
     VERIFY_HOLDS_FOR(chosen.isEmpty() && m_menu->isVisible(), 300);
-    click(1);
+    RealPointer::click(1);
     QTRY_COMPARE(static_cast<int>(chosen.count()), 1);
     QCOMPARE(chosen.first().first().value<QAction *>(), m_menu->actions().at(2));
     QTRY_VERIFY(!m_menu->isVisible());
@@ -165,36 +150,36 @@ void tst_HoverMenu::entryIsChosenByClick()
 
 void tst_HoverMenu::pressClosesIt()
 {
-    movePointer(freeCornerOf(*m_button));
+    RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(isUnrolled(*m_menu));
     // A press beside both closes it, as it does any menu; one on the button also keeps it away until the mouse has
     // left.
-    movePointer(away());
-    click(1);
+    RealPointer::moveTo(away());
+    RealPointer::click(1);
     QTRY_VERIFY(!m_menu->isVisible());
-    movePointer(freeCornerOf(*m_button));
+    RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(isUnrolled(*m_menu));
     QTRY_VERIFY(m_menu->isVisible());
     const QSignalSpy clicked(m_button, &CButtonEx::clicked2);
-    click(1);
+    RealPointer::click(1);
     QTRY_VERIFY(!m_menu->isVisible());
     QTRY_COMPARE(static_cast<int>(clicked.count()), 1); // the same click is the button's
     QVERIFY(!m_button->isDown());
     for (int i = 1; i < 6; ++i)
-        movePointer(freeCornerOf(*m_button) - QPoint(i, i));
+        RealPointer::moveTo(freeCornerOf(*m_button) - QPoint(i, i));
     VERIFY_HOLDS_FOR(!m_menu->isVisible(), 500);
     takePicture("pressed");
-    movePointer(away());
+    RealPointer::moveTo(away());
     QTRY_VERIFY(!m_button->underMouse());
-    movePointer(freeCornerOf(*m_button));
+    RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(m_menu->isVisible());
 }
 
 void tst_HoverMenu::otherButtonTakesOver()
 {
-    movePointer(freeCornerOf(*m_button));
+    RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(m_menu->isVisible());
-    movePointer(freeCornerOf(*m_other));
+    RealPointer::moveTo(freeCornerOf(*m_other));
     QTRY_VERIFY_WITH_TIMEOUT(m_otherMenu->isVisible(), 5000);
     QVERIFY(!m_menu->isVisible());
     takePicture("1-other");

@@ -55,6 +55,51 @@ bool Picture::paintsOutside(const QImage &image, const QRect &inside)
     return false;
 }
 
+bool Picture::isBlank(const QImage &image)
+{
+    return !paintsOutside(image, QRect());
+}
+
+QRect Picture::boundsOf(const QImage &image, const QColor &color)
+{
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) == color)
+                bounds |= QRect(x, y, 1, 1);
+    }
+    return bounds;
+}
+
+QImage Picture::fromLetters(const char *letters, const Legend &legend, const QColor &ground)
+{
+    const QStringList rows = QString::fromLatin1(letters).split(QLatin1Char('\n')).mid(1);
+    const QSize size(static_cast<int>(rows.constFirst().size()), static_cast<int>(rows.size()));
+    return of(size, [&](QPainter *painter) {
+        painter->fillRect(QRect(QPoint(0, 0), size), ground);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x)
+                for (const QColor &layer : legend.value(rows.at(y).at(x)))
+                    painter->fillRect(x, y, 1, 1, layer);
+        }
+    });
+}
+
+QString Picture::difference(const QImage &actual, const QImage &wanted)
+{
+    if (actual.size() != wanted.size())
+        return QStringLiteral("%1 by %2 pixels").arg(actual.width()).arg(actual.height());
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x)
+            if (actual.pixel(x, y) != wanted.pixel(x, y))
+                return QStringLiteral("(%1, %2): %3 in place of %4")
+                    .arg(x)
+                    .arg(y)
+                    .arg(colorAt(actual, x, y), colorAt(wanted, x, y));
+    }
+    return QString();
+}
+
 QString Picture::colorAt(const QImage &image, int x, int y)
 {
     return image.pixelColor(x, y).name(QColor::HexArgb);

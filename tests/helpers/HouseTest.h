@@ -1,7 +1,10 @@
 // What every test of the house shares: no unannounced warning, pictures of what a style paints, and a main function.
 #pragma once
 
+#include <QColor>
+#include <QEvent>
 #include <QImage>
+#include <QMap>
 #include <QObject>
 #include <QPainter>
 #include <QStringList>
@@ -24,6 +27,19 @@ protected Q_SLOTS:
     void cleanup();
 };
 
+/** Counts the paint events of the widgets that it filters. */
+class PaintCounter : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int paints = 0;
+};
+
 namespace Picture {
 
 /** What `draw(painter)` paints on a transparent image of the size, on a device of the given pixel ratio. */
@@ -41,6 +57,21 @@ QImage of(const QSize &size, Draw &&draw, qreal ratio = 1.0)
 
 /** True when any pixel outside `inside` is painted. */
 bool paintsOutside(const QImage &image, const QRect &inside);
+
+/** True when no pixel is painted. */
+bool isBlank(const QImage &image);
+
+/** The smallest rectangle around the pixels of exactly this colour; null where there is none. */
+QRect boundsOf(const QImage &image, const QColor &color);
+
+using Layers = QList<QColor>; // from the ground up
+using Legend = QMap<QChar, Layers>;
+
+/** The picture that rows of letters describe, over the ground. The first row begins behind a line break. */
+QImage fromLetters(const char *letters, const Legend &legend, const QColor &ground = Qt::transparent);
+
+/** Where two pictures differ first, and how; empty where they do not. */
+QString difference(const QImage &actual, const QImage &wanted);
 
 /** "#aarrggbb" at a point, for readable failures. */
 QString colorAt(const QImage &image, int x, int y);

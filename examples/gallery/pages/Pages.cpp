@@ -7,8 +7,10 @@ namespace gallery {
 const std::vector<PageDescription> &pages()
 {
     static const std::vector<PageDescription> all = {
-        buttonsPage(), menusPage(), textBoxesPage(), slidersPage(),  scrollBarsPage(),
-        tabsPage(),    listsPage(), splittersPage(), standardPage(), formPage(),
+        buttonsPage(),     checkBoxesPage(), textBoxesPage(), dropDownsPage(),    listBoxesPage(),
+        labelsPage(),      framesPage(),     slidersPage(),   rangeSlidersPage(), zoomSlidersPage(),
+        iconButtonsPage(), titleBarPage(),   progressPage(),  menusPage(),        standardPage(),
+        formPage(),        tabsPage(),       listsPage(),     scrollBarsPage(),   splittersPage(),
     };
     return all;
 }

@@ -7,8 +7,18 @@ namespace gallery {
 // Each in the source file of its name.
 PageDescription buttonsPage();
 PageDescription menusPage();
+PageDescription checkBoxesPage();
 PageDescription textBoxesPage();
+PageDescription dropDownsPage();
+PageDescription listBoxesPage();
+PageDescription labelsPage();
+PageDescription framesPage();
 PageDescription slidersPage();
+PageDescription rangeSlidersPage();
+PageDescription zoomSlidersPage();
+PageDescription iconButtonsPage();
+PageDescription titleBarPage();
+PageDescription progressPage();
 PageDescription scrollBarsPage();
 PageDescription tabsPage();
 PageDescription listsPage();

@@ -1,0 +1,44 @@
+#include "FrameEx/Frame.h"
+
+#include "CC4Styles/PaintTools.h"
+#include "include/qt_globals.h"
+
+#include <QAccessibleWidget>
+#include <QPainter>
+
+namespace {
+
+QAccessibleInterface *makeInterface(const QString &className, QObject *object)
+{
+    auto *frame = className == QLatin1String("CFrame") ? qobject_cast<CFrame *>(object) : nullptr;
+    return frame != nullptr ? new QAccessibleWidget(frame, QAccessible::Separator) : nullptr;
+}
+
+} // namespace
+
+CFrame::CFrame(QWidget *parent) : QFrame(parent)
+{
+    ZEL_LOG_SCOPE;
+    QAccessible::installFactory(makeInterface); // knows a factory that it has already
+}
+
+CFrame::~CFrame()
+{
+    ZEL_LOG_SCOPE;
+}
+
+void CFrame::SetGradientFrame(QColor color)
+{
+    ZEL_LOG_SCOPE;
+    m_lineColor = color;
+}
+
+// One colour stands for the gradient of one stop: it fills all of it. An invalid colour counts as black, as it does in
+// a gradient.
+void CFrame::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const int middle = height() / 2;
+    const QColor color = m_lineColor.isValid() ? m_lineColor : QColor(Qt::black);
+    PaintTools::fillLine(&painter, QPoint(0, middle), QPoint(width(), middle), color);
+}

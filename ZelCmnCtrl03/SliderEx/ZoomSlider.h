@@ -1,0 +1,136 @@
+#pragma once
+
+#include "include/zelcmnctrl_export.h"
+
+#include <QPixmap>
+#include <QRect>
+#include <QSlider>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+class CButtonEx;
+class CSliderEx;
+class CZoomSliderPrivate;
+class QGridLayout;
+
+/**
+ * A horizontal CSliderEx between two image buttons, for zooming and for anything else that has a less and a more, such
+ * as a colour temperature.
+ *
+ * The button on the left, the smaller one, zooms in, which takes 1 off the value; the larger one on the right zooms out
+ * and adds 1. Every change of the value is told by zoomChanged(); with snapping on, changes that come from the slider
+ * itself are told by signal_SliderMoved() instead, for an application that shows a preview while the handle moves.
+ *
+ * The parts are children with the object names "ZoomIn", "Slider" and "ZoomOut", in this tab order; the control itself
+ * takes no focus. Assistive technology hears of "Smaller", "Zoom" and "Larger", in the language of the application; for
+ * another purpose give the parts names of their own with setAccessibleName().
+ *
+ * The control runs from left to right in every layout, since a CSliderEx reads clicks so; setLayoutDirection() changes
+ * that.
+ */
+class ZELCMNCTRL_EXPORT CZoomSlider : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Without images. The buttons get their greatest size from their images here and now, so these ones stay 4 x 4
+     * pixels whatever images follow, and temperatureSliderPressed() and temperatureSliderReleased() only come through
+     * the slots.
+     */
+    explicit CZoomSlider(QWidget *parent = nullptr);
+    /**
+     * With the images of the buttons, from file paths. A file that is no image gives a button of 4 x 4 pixels. Of the
+     * range and the steps of the slider see CSliderEx.
+     */
+    CZoomSlider(QWidget *parent, QString zoomIn, QString zoomOut);
+    ~CZoomSlider() override;
+
+    /** Called by the constructors. A further call only turns snapping off. */
+    void Initialize();
+
+    /** The image in place of the slider's drawn handle; see CSliderEx::setKnobImage(). */
+    void setKnobImage(const QString &path);
+    void setKnobImage(const QPixmap &image);
+    const QPixmap &knobImage() const;
+
+    /**
+     * The images of the buttons. An image larger than the one that the control was constructed with is cut, by all that
+     * exceeds 4 pixels.
+     */
+    void setSmallerButtonImage(const QString &path);
+    void setSmallerButtonImage(const QPixmap &image);
+    const QPixmap &smallerButtonImage() const;
+    void setLargerButtonImage(const QString &path);
+    void setLargerButtonImage(const QPixmap &image);
+    const QPixmap &largerButtonImage() const;
+
+    /** The range and the position of the slider, 0 to 99 and 0 at first. Moving it emits as a drag does. */
+    void setMaximum(int maximum);
+    int maximum() const;
+    void setMinimum(int minimum);
+    int minimum() const;
+    void setSliderPosition(int position);
+    int sliderPosition() const;
+
+    /**
+     * Tick marks on the given sides of the slider, about `count` of them, whatever the range: the interval is 100 /
+     * count in whole numbers. With a count of 0 or less it is 0, which leaves their number to the style.
+     */
+    void setTicks(QSlider::TickPosition position, int count);
+
+    /** Whether changes that come from the slider are told by signal_SliderMoved() in place of zoomChanged(). */
+    void setSliderToSnapping(bool on);
+
+Q_SIGNALS:
+    /**
+     * Fires for each change of the slider's value unless snapping is on, and, snapping or not, once for each click on a
+     * button, at the ends of the range too.
+     */
+    void zoomChanged(int value);
+    /** Fires when the handle of the slider is pressed, with its position; see the constructors. */
+    void temperatureSliderPressed(int position);
+    /** Fires when it is let go. */
+    void temperatureSliderReleased(int position);
+    /** Fires for each change of the slider's value while snapping is on. */
+    void signal_SliderMoved(int value);
+
+public Q_SLOTS:
+    /** Tells of the value, by the signal that snapping chooses. Does not move the slider. */
+    void setZoomed(int zoomValue);
+    /** One step down, or to the minimum from below it. Emits zoomChanged() and nothing else. */
+    void onZoomIn();
+    /** One step up, or to the maximum from above it. Emits zoomChanged() and nothing else. */
+    void onZoomOut();
+    /** Emits temperatureSliderReleased() with the slider's position; the argument is not looked at. */
+    void onSliderReleased(int position);
+    /** Emits temperatureSliderPressed() likewise. */
+    void onSliderPressed(int position);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+    void d_zel_func_CZoomSlider(CZoomSliderPrivate **out);
+
+    // A press of any button in them, in pixels of this widget, sends the slider to its minimum or maximum. Null, and so
+    // without effect, unless a derived class sets them.
+    QRect smallerRect;
+    QRect largerRect;
+
+private:
+    Q_DISABLE_COPY(CZoomSlider)
+
+    void createParts();
+    void layOutParts();
+    void nameParts();
+    void stepBy(int step);
+
+    CButtonEx *m_pSmallerButton = nullptr;
+    CButtonEx *m_pLargerButton = nullptr;
+    CSliderEx *m_pSlider = nullptr;
+    QGridLayout *m_pGridLayout = nullptr;
+    QStringList m_sPartNames; // as given last: other ones are the application's own
+    CZoomSliderPrivate *d = nullptr;
+};
