@@ -11,6 +11,7 @@ set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 # From the folder of the .pc files back to the prefix.
 file(RELATIVE_PATH prefix_from_pkgconfig ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" prefix_from_pkgconfig "${prefix_from_pkgconfig}")
 
 # Libraries
 
@@ -30,6 +31,9 @@ install(DIRECTORY ZelCUtil03/include/ZelCUtil03 DESTINATION ${CMAKE_INSTALL_INCL
     FILES_MATCHING PATTERN "*.h")
 get_property(public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
 foreach(header IN LISTS public_headers)
+    if(NOT EXISTS ${PROJECT_SOURCE_DIR}/ZelCmnCtrl03/${header})
+        continue() # made by the build, and installed with the forwarding headers
+    endif()
     cmake_path(GET header PARENT_PATH folder)
     install(FILES ZelCmnCtrl03/${header} DESTINATION ${package_include}/ZelCmnCtrl03/${folder} COMPONENT development)
 endforeach()
@@ -40,17 +44,17 @@ install(DIRECTORY ${PROJECT_BINARY_DIR}/include/${package}/ DESTINATION ${packag
 install(EXPORT ZelCUtil03Targets NAMESPACE Zel:: DESTINATION ${utility_cmake} COMPONENT utility_dev)
 install(EXPORT ${package}Targets NAMESPACE Zel:: DESTINATION ${library_cmake} COMPONENT development)
 
-function(zel_package_config name destination component)
+function(zel_package_config template name destination component)
     set(config ${PROJECT_BINARY_DIR}/cmake/${name}Config.cmake)
-    configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${ARGV3} ${config} INSTALL_DESTINATION ${destination}
+    configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/${template} ${config} INSTALL_DESTINATION ${destination}
         NO_SET_AND_CHECK_MACRO)
     write_basic_package_version_file(${PROJECT_BINARY_DIR}/cmake/${name}ConfigVersion.cmake
         VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
     install(FILES ${config} ${PROJECT_BINARY_DIR}/cmake/${name}ConfigVersion.cmake DESTINATION ${destination}
         COMPONENT ${component})
 endfunction()
-zel_package_config(ZelCUtil03 ${utility_cmake} utility_dev ZelCUtil03Config.cmake.in)
-zel_package_config(${package} ${library_cmake} development ZelCmnCtrl03Config.cmake.in)
+zel_package_config(ZelCUtil03Config.cmake.in ZelCUtil03 ${utility_cmake} utility_dev)
+zel_package_config(ZelCmnCtrl03Config.cmake.in ${package} ${library_cmake} development)
 
 # pkg-config
 

@@ -1,0 +1,17 @@
+# An application that finds the installation by pkg-config.
+
+include(${CMAKE_CURRENT_LIST_DIR}/Prefix.cmake)
+
+foreach(major IN LISTS majors)
+    set(module zelcmnctrl03-qt${major})
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env PKG_CONFIG_PATH=${prefix}/${LIBDIR}/pkgconfig
+        pkg-config --cflags --libs ${module} RESULT_VARIABLE result OUTPUT_VARIABLE flags ERROR_VARIABLE errors)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "pkg-config does not find ${module}: ${errors}")
+    endif()
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    set(program ${WORK_DIR}/${module})
+    # Qt wants -fPIC of its applications. CMake's packages say so, Qt 5's modules of pkg-config do not.
+    run("Building" ${COMPILER} -std=c++17 -fPIC ${SOURCES}/tests/consumer/main.cpp -o ${program} ${flags})
+    run_consumer(${program} ${major} LD_LIBRARY_PATH=${prefix}/${LIBDIR})
+endforeach()
