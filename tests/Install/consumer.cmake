@@ -1,5 +1,6 @@
 # An application that finds the installation by CMake.
 
+cmake_minimum_required(VERSION 3.23)
 include(${CMAKE_CURRENT_LIST_DIR}/Prefix.cmake)
 
 set(configure ${CMAKE_COMMAND} -S ${SOURCES}/tests/consumer -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${prefix}
@@ -23,7 +24,7 @@ if(NOT OTHER_MAJOR IN_LIST majors)
     return()
 endif()
 file(REMOVE_RECURSE ${WORK_DIR}/consumer-of-both)
-execute_process(COMMAND ${configure} -B ${WORK_DIR}/consumer-of-both "-DQT_MAJORS=${MAJOR}\;${OTHER_MAJOR}"
+execute_process(COMMAND ${configure} -B ${WORK_DIR}/consumer-of-both "-DQT_MAJORS=${MAJOR};${OTHER_MAJOR}"
     RESULT_VARIABLE result OUTPUT_QUIET ERROR_VARIABLE errors)
 string(REGEX REPLACE "[ \n]+" " " errors "${errors}")
 if(result EQUAL 0 OR NOT errors MATCHES "a program cannot use two versions of Qt")

@@ -1,5 +1,6 @@
 # An application that finds the installation by pkg-config.
 
+cmake_minimum_required(VERSION 3.23)
 include(${CMAKE_CURRENT_LIST_DIR}/Prefix.cmake)
 
 foreach(major IN LISTS majors)
