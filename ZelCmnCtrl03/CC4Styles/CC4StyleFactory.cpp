@@ -61,6 +61,7 @@ void CC4StyleFactory::releaseStyle(CC4Styles styleType)
     case BlueScrollStyle: return release(m_pBlueScrollStyle, m_iRefCountBlueScroll);
     case TBWStyle: return release(m_pTBWStyle, m_iRefCountTBW);
     default:
+        // Misspelt for so long that people search their logs for it.
         ZEL_LOG(
             zel::LogDetail, zel::CommonControls,
             QStringLiteral("CC4StyleFactory::releaseStyle(CC4Styles styleType) - default statement in swicth case"));

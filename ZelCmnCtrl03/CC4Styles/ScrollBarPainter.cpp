@@ -14,7 +14,7 @@ namespace {
 constexpr int capInset = 2; // of a cap from the edge of the bar
 constexpr int secondCapFromEnd = 3;
 constexpr int forwardArrowFromEnd = 21;
-constexpr QSize forwardArrowKeySize(16, 16);
+constexpr QSize forwardArrowKeySize(16, 16); // whatever its size: one picture serves all bars of a state
 
 void drawElement(QPainter *painter, const Element &element, bool isStored, const ScrollBar &bar, const QRect &rect,
                  const QString &key)

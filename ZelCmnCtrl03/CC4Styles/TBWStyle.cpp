@@ -84,17 +84,17 @@ void CTBWStyle::drawHeader(const QStyleOption *option, QPainter *painter, const 
     const QRect fill = option->rect.adjusted(-1, 0, -1, 0);
     const QRect outline = option->rect.adjusted(-1, 0, -1, -1);
     if (isSorted(*header)) {
+        // Where the highlight lets it through. The base draws the arrow once more, on top.
         QStyleOptionHeader arrow = *header;
         arrow.rect = proxy()->subElementRect(SE_HeaderArrow, option, widget);
-        proxy()->drawPrimitive(PE_IndicatorHeaderArrow, &arrow, painter,
-                               widget); // shows through a translucent highlight
+        proxy()->drawPrimitive(PE_IndicatorHeaderArrow, &arrow, painter, widget);
         painter->fillRect(fill, option->palette.highlight());
         painter->drawRect(outline);
     } else {
         painter->fillRect(fill, option->palette.color(QPalette::Button));
         painter->drawRect(outline);
-        QProxyStyle::drawControl(CE_Header, option, painter,
-                                 widget); // twice with the next: bolder where it is smoothed
+        // Twice with the next: smoothed letters come out bolder.
+        QProxyStyle::drawControl(CE_Header, option, painter, widget);
     }
     QProxyStyle::drawControl(CE_Header, option, painter, widget);
 }

@@ -49,7 +49,7 @@ void CCheckBoxEx::setFixedHeight(int height)
 void CCheckBoxEx::setFixedLabelWidth(int width)
 {
     ZEL_LOG_SCOPE;
-    if (m_pSeparateLabel == nullptr)
+    if (m_pSeparateLabel == nullptr || m_pSeparateLabel->label() == nullptr)
         return;
     m_pSeparateLabel->setFixedWidth(width);
     setFixedHeight(m_pSeparateLabel->textHeight());

@@ -111,7 +111,7 @@ void CDropDownEx::mousePressEvent(QMouseEvent *event)
     if (event->button() == Qt::RightButton) {
         event->ignore();
     } else {
-        prepareList();
+        prepareList(); // here too: the middle button opens no list, and yet brings the short one
         QComboBox::mousePressEvent(event);
     }
     Q_EMIT customClicked();

@@ -37,7 +37,8 @@ public:
     bool isClickable() const;
 
 Q_SIGNALS:
-    /** Fires when the left button is released over a label that was pressed, wherever the mouse is by then. */
+    /** Fires with each release of the left button that the label gets; after a press that is wherever the mouse went.
+     */
     void clicked();
     /** Fires right after clicked(), and names the label. */
     void clicked2(QWidget *sender);

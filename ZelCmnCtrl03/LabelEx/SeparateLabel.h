@@ -9,7 +9,6 @@ class QAbstractButton;
 class QFont;
 class QHBoxLayout;
 class QPalette;
-class QSpacerItem;
 
 /**
  * A word-wrapping label inside of a button that has no text of its own, on a layout in the button. To assistive tools

@@ -1,15 +1,20 @@
 #include "Platform/Platform.h"
 
+#include "include/qt_compat.h"
+
 #include <QCursor>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QWidget>
 #include <QWindow>
+
+#include <algorithm>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -18,6 +23,48 @@
 #endif
 
 namespace Platform {
+
+namespace {
+
+/** Moves a window by the mouse events that the application gets; belongs to it, and goes when the button goes up. */
+class PointerFollower : public QObject
+{
+public:
+    PointerFollower(QWidget *window, const QPoint &pointer)
+        : QObject(window), m_window(window), m_pointerToCorner(window->pos() - pointer)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::MouseMove && event->type() != QEvent::MouseButtonRelease)
+            return QObject::eventFilter(watched, event);
+        const auto *mouse = static_cast<const QMouseEvent *>(event);
+        if ((mouse->buttons() & Qt::LeftButton) == 0) {
+            qApp->removeEventFilter(this);
+            deleteLater();
+            return false;
+        }
+        m_window->move(zel::globalPosition(mouse) + m_pointerToCorner);
+        return true;
+    }
+
+private:
+    QWidget *const m_window;
+    const QPoint m_pointerToCorner;
+};
+
+QList<QScreen *> screensIn(const QRect &area)
+{
+    QList<QScreen *> screens;
+    for (QScreen *screen : QGuiApplication::screens())
+        if (screen->geometry().intersects(area))
+            screens.append(screen);
+    return screens;
+}
+
+} // namespace
 
 bool registerPrivateFont(const QString &path)
 {
@@ -49,6 +96,28 @@ std::unique_ptr<QStyle> createNativeStyle()
     return native;
 }
 
+QPixmap pictureOfDesktop(const QRect &area)
+{
+    const QList<QScreen *> screens = screensIn(area);
+    qreal ratio = 1.0;
+    for (const QScreen *screen : screens)
+        ratio = std::max(ratio, screen->devicePixelRatio());
+    QPixmap picture(area.size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    bool isEmpty = true;
+    for (QScreen *screen : screens) {
+        const QRect part = screen->geometry() & area;
+        const QRect onScreen = part.translated(-screen->geometry().topLeft());
+        const QPixmap seen = screen->grabWindow(0, onScreen.x(), onScreen.y(), onScreen.width(), onScreen.height());
+        isEmpty = isEmpty && seen.isNull();
+        painter.drawPixmap(part.translated(-area.topLeft()), seen);
+    }
+    painter.end();
+    return isEmpty ? QPixmap() : picture;
+}
+
 bool startWindowDrag(const QWidget *widget)
 {
     QWindow *handle = widget->window()->windowHandle();
@@ -63,6 +132,11 @@ bool startWindowDrag(const QWidget *widget)
     return true;
 }
 
+void followPointer(QWidget *window, const QPoint &pointer)
+{
+    new PointerFollower(window, pointer);
+}
+
 void coverScreen(QWidget *window)
 {
     const QScreen *screen = window->isWindow() ? window->screen() : nullptr;
@@ -70,6 +144,24 @@ void coverScreen(QWidget *window)
         return;
     const QRect area = screen->availableGeometry();
     window->setGeometry(QRect(area.topLeft(), window->maximumSize().boundedTo(area.size())));
+}
+
+QRect taskBarRect(const QScreen &screen)
+{
+    const QRect whole = screen.geometry();
+    const int top = screen.availableGeometry().bottom() + 1;
+    return QRect(whole.left(), top, whole.width(), whole.bottom() + 1 - top);
+}
+
+bool taskBarHidesItself()
+{
+#ifdef Q_OS_WIN
+    APPBARDATA data{};
+    data.cbSize = sizeof(data);
+    return (SHAppBarMessage(ABM_GETSTATE, &data) & ABS_AUTOHIDE) != 0;
+#else
+    return false;
+#endif
 }
 
 } // namespace Platform

@@ -2,10 +2,13 @@
 // the source file beside this header is the only one that may ask for the operating system.
 #pragma once
 
+#include <QPixmap>
+#include <QRect>
 #include <QString>
 
 #include <memory>
 
+class QScreen;
 class QStyle;
 class QWidget;
 
@@ -35,6 +38,13 @@ QString displayName(const QString &path);
 std::unique_ptr<QStyle> createNativeStyle();
 
 /**
+ * What the user sees now in `area`, in global coordinates, in the finest density of the screens that it touches.
+ *
+ * Null where the window system gives no such picture. Parts beyond the screens are transparent.
+ */
+QPixmap pictureOfDesktop(const QRect &area);
+
+/**
  * Lets the window system move the widget's window with the pointer until the mouse button goes up. For a handler of a
  * press of the left button; the widget that was pressed is told of a release soon after, whether the button is up or
  * not.
@@ -44,6 +54,12 @@ std::unique_ptr<QStyle> createNativeStyle();
 bool startWindowDrag(const QWidget *widget);
 
 /**
+ * Lets the window move itself with the pointer until the left mouse button goes up: where the window system does not.
+ * `pointer` is where that button was pressed, in global coordinates.
+ */
+void followPointer(QWidget *window, const QPoint &pointer);
+
+/**
  * Places a window, in its maximum size, at the top left corner of its screen, beside the bars that the system keeps
  * there. It becomes no larger than the area that these leave.
  *
@@ -51,5 +67,15 @@ bool startWindowDrag(const QWidget *widget);
  * for a widget that is no window.
  */
 void coverScreen(QWidget *window);
+
+/**
+ * The task bar or dock at the bottom edge of the screen, in global coordinates.
+ *
+ * Without one it is an empty strip just below the screen, so that its top is always where windows have to end.
+ */
+QRect taskBarRect(const QScreen &screen);
+
+/** True when the task bar hides itself. Only Windows tells; false elsewhere. */
+bool taskBarHidesItself();
 
 } // namespace Platform

@@ -51,7 +51,7 @@ void CRadioButtonEx::setFixedHeight(int height)
 void CRadioButtonEx::setFixedLabelWidth(int width)
 {
     ZEL_LOG_SCOPE;
-    if (m_pSeparateLabel == nullptr)
+    if (m_pSeparateLabel == nullptr || m_pSeparateLabel->label() == nullptr)
         return;
     m_pSeparateLabel->setFixedWidth(width);
     setFixedHeight(m_pSeparateLabel->textHeight() + extraHeight);

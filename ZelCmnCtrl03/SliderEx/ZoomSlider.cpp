@@ -293,6 +293,7 @@ void CZoomSlider::mousePressEvent(QMouseEvent *event)
 
 void CZoomSlider::changeEvent(QEvent *event)
 {
+    ZEL_LOG_SCOPE;
     if (event->type() == QEvent::LanguageChange)
         nameParts();
     QWidget::changeEvent(event);

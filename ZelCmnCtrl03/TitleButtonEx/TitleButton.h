@@ -38,8 +38,8 @@ public:
 
 Q_SIGNALS:
     /**
-     * Fires with every release of the left mouse button that was pressed here, wherever the pointer is by then, and
-     * when assistive technology presses the button. The button may be deleted in a slot.
+     * Fires with each release of the left mouse button that the button gets, after a press wherever the pointer went,
+     * and when assistive technology presses the button. The button may be deleted in a slot.
      */
     void customClicked();
 

@@ -40,7 +40,9 @@ void declareOptions(QCommandLineParser *parser)
         {picturesName, QStringLiteral("The same for each single specimen."), dir},
         {pageName, QStringLiteral("The page to save, or to show first. Pages: %1.").arg(knownPages()),
          QStringLiteral("NAME")},
-        {languageName, QStringLiteral("Language of texts and fonts, such as de or zh-chs (ZEL_LANGUAGE)."),
+        {languageName,
+         QStringLiteral(
+             "Language of texts and fonts, such as de or zh-chs (ZEL_LANGUAGE). The direction is --right-to-left's."),
          QStringLiteral("TAG")},
         {graphicsName, QStringLiteral("Directory of the artwork (ZEL_GRAPHICS_DIR)."), dir},
         {scaleName, QStringLiteral("Screen pixels per pixel, such as 1.5 or 2 (QT_SCALE_FACTOR)."),

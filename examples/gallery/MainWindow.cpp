@@ -3,6 +3,8 @@
 #include "Page.h"
 #include "pages/Pages.h"
 
+#include <ZelCUtil03/ZelCUtil.h>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,8 +24,8 @@ namespace gallery {
 
 namespace {
 
-constexpr QSize windowSize(1180, 860);
-constexpr int listWidth = 150;
+constexpr QSize windowSize(1280, 900);
+constexpr int listWidth = 170;
 constexpr int listMargin = 12;
 constexpr int switchGap = 20;
 
@@ -222,7 +224,7 @@ void MainWindow::showPage()
     statusBar()->clearMessage();
 
     MakerSettings settings;
-    settings.texts = sampleTexts(qEnvironmentVariable("ZEL_LANGUAGE"));
+    settings.texts = sampleTexts(QString::fromUtf16(GetLanguage()));
     settings.foreignStyle = m_options.isForeign ? m_foreignStyle.get() : nullptr;
     settings.isEnabled = !m_options.isDisabled;
     settings.report = [this](const QString &text) {

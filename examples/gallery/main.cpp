@@ -5,9 +5,13 @@
 
 #include <ZelCmnCtrl03/CC4StyleFactory>
 
+#include <ZelCUtil03/ZelCUtil.h>
+
 #include <QApplication>
+#include <QLocale>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <QTranslator>
 
 #include <memory>
 
@@ -41,11 +45,23 @@ void setFontSize()
     QApplication::setFont(font);
 }
 
+// The library's own texts, such as those of the buttons of message boxes; English where there is no better catalogue.
+void loadTexts(QTranslator *translator)
+{
+    const QString directory =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zelcmnctrl03/translations");
+    const QString tag = qEnvironmentVariable("ZEL_LANGUAGE");
+    const QLocale locale = tag.isEmpty() ? QLocale() : QLocale(tag);
+    if (!translator->load(locale, QStringLiteral("zelcmnctrl03"), QStringLiteral("_"), directory) &&
+        !translator->load(QStringLiteral("zelcmnctrl03_en"), directory))
+        QTextStream(stderr) << QStringLiteral("zel_gallery: no texts in %1\n").arg(directory);
+}
+
 int takePictures(const gallery::GalleryOptions &options)
 {
     const std::unique_ptr<QStyle> foreignStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     gallery::MakerSettings settings;
-    settings.texts = gallery::sampleTexts(qEnvironmentVariable("ZEL_LANGUAGE"));
+    settings.texts = gallery::sampleTexts(QString::fromUtf16(GetLanguage()));
     settings.foreignStyle = options.isForeign ? foreignStyle.get() : nullptr;
     settings.isEnabled = !options.isDisabled;
     settings.isAnimated = false;
@@ -88,6 +104,9 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
     QApplication application(argc, argv);
+    QTranslator texts;
+    loadTexts(&texts);
+    QCoreApplication::installTranslator(&texts);
     const HouseStyle houseStyle;
     setFontSize();
     if (options.isRightToLeft)

@@ -33,7 +33,8 @@ const Bitmap bitmaps[] = {
     {"ddScrollbarArrowDown", {5, 5}, 0xFF0F0000},           {"ddScrollbarSliderTop", {16, 4}, 0xFF100000},
     {"ddScrollbarSliderBottom", {16, 4}, 0xFF110000},       {"ddScrollbarSliderBlit", {16, 1}, 0xFF120000},
     {"ScrollbarBlueArrowLeft", {10, 10}, 0xFF130000},       {"ScrollbarBlueArrowRight", {10, 10}, 0xFF140000},
-    {"ScrollbarBlueSliderLeft", {4, 8}, 0xFF150000},        {"ScrollbarGreySliderLeft", {4, 8}, 0xFF160000},
+    {"ScrollbarBlueSliderRight", {4, 8}, 0xFF170000},       {"ScrollbarBlueSliderLeft", {4, 8}, 0xFF150000},
+    {"ScrollbarGreySliderLeft", {4, 8}, 0xFF160000},
 };
 
 QString from(const char *name)
@@ -42,6 +43,12 @@ QString from(const char *name)
         if (qstrcmp(bitmap.name, name) == 0)
             return QColor::fromRgba(bitmap.color).name(QColor::HexArgb);
     return QString::fromLatin1(name);
+}
+
+/** The pixels of a bitmap. */
+QRect boundsOf(const QImage &image, const char *name)
+{
+    return Picture::boundsOf(image, QColor(from(name)));
 }
 
 struct Bar
@@ -120,7 +127,7 @@ void tst_StyleVariants::blueScrollBar()
     QCOMPARE(Picture::colorAt(image, 0, 30), from("BlueCenterScrollBarVGrooveBlt"));
     QCOMPARE(Picture::colorAt(image, 20, 30), from("BlueCenterScrollBarVGrooveBlt"));
     QCOMPARE(Picture::colorAt(image, 21, 30), QColor(Qt::yellow).name(QColor::HexArgb));
-    QCOMPARE(Picture::colorAt(image, 7, 7), from("BlueCenterScrollbarArrowUp"));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollbarArrowUp"), QRect(7, 7, 4, 4));
     QCOMPARE(Picture::colorAt(image, 6, 7), from("BlueCenterScrollBarVGrooveBlt"));
     QCOMPARE(Picture::colorAt(image, 7, 199 - 8), from("BlueCenterScrollbarArrowDown"));
     QRect slider = vertical.partOf(style, QStyle::SC_ScrollBarSlider);
@@ -133,15 +140,20 @@ void tst_StyleVariants::blueScrollBar()
     vertical.option.state &= ~QStyle::State_Enabled;
     QCOMPARE(vertical.paintedBy(style), image);
 
-    const Bar horizontal(Qt::Horizontal);
+    Bar horizontal(Qt::Horizontal);
     image = horizontal.paintedBy(style);
     QCOMPARE(Picture::colorAt(image, 30, 20), from("BlueCenterScrollBarHGrooveBlt"));
-    QCOMPARE(Picture::colorAt(image, 7, 7), from("BlueCenterScrollbarArrowLeft"));
-    QCOMPARE(Picture::colorAt(image, 199 - 8, 7), from("BlueCenterScrollbarArrowRight"));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollbarArrowLeft"), QRect(7, 7, 4, 4));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollbarArrowRight"), QRect(199 - 8, 7, 4, 4));
     slider = horizontal.partOf(style, QStyle::SC_ScrollBarSlider);
     QCOMPARE(Picture::colorAt(image, slider.left() + 1, 19), from("BlueCenterHSliderBlit"));
     QCOMPARE(Picture::colorAt(image, slider.left(), 2), from("BlueCenterScrollBarLeft"));
     QCOMPARE(Picture::colorAt(image, slider.right() - 3, 9), from("BlueCenterScrollBarRight"));
+
+    horizontal.option.direction = Qt::RightToLeft; // each arrow still points outward
+    image = horizontal.paintedBy(style);
+    QVERIFY(boundsOf(image, "BlueCenterScrollbarArrowLeft").left() < 100);
+    QVERIFY(boundsOf(image, "BlueCenterScrollbarArrowRight").left() > 100);
 }
 
 void tst_StyleVariants::blueScrollBarIsStored()
@@ -178,6 +190,11 @@ void tst_StyleVariants::dropDownScrollBar()
     QCOMPARE(Picture::colorAt(image, arrow.x() + 4, arrow.y() + 4), from("ddScrollbarArrowUp"));
     // The slider's picture is 22 wide, has its bitmaps one pixel in, and is squeezed into 19.
     const QRect slider = vertical.partOf(style, QStyle::SC_ScrollBarSlider);
+    QCOMPARE(boundsOf(image, "ddScrollbarSliderBlit").left(), 7);   // 3 + 3 + its own 1
+    QCOMPARE(boundsOf(image, "ddScrollbarSliderBlit").width(), 14); // 16 of 22 in 19
+    const QRect forward = vertical.partOf(style, QStyle::SC_ScrollBarAddLine).adjusted(3, 0, 0, 0);
+    const QPoint down = forward.topLeft() + QRect(QPoint(0, 0), forward.size()).center() - QPoint(1, 2);
+    QCOMPARE(boundsOf(image, "ddScrollbarArrowDown"), QRect(down, QSize(5, 5)));
     QCOMPARE(Picture::colorAt(image, 8, slider.top()), from("ddScrollbarSliderTop"));
     QCOMPARE(Picture::colorAt(image, 8, slider.top() + 4), from("ddScrollbarSliderBlit"));
     QCOMPARE(Picture::colorAt(image, 8, slider.bottom() - 4), from("ddScrollbarSliderBlit"));
@@ -190,7 +207,8 @@ void tst_StyleVariants::dropDownScrollBar()
     Bar horizontal(Qt::Horizontal);
     const int sliderLeft = horizontal.partOf(style, QStyle::SC_ScrollBarSlider).left() + 6;
     image = horizontal.paintedBy(style);
-    QCOMPARE(Picture::colorAt(image, 3, 0), from("ScrollbarBlueArrowLeft"));
+    QCOMPARE(boundsOf(image, "ScrollbarBlueArrowLeft"), QRect(3, 0, 10, 10));
+    QCOMPARE(boundsOf(image, "ScrollbarBlueArrowRight").left(), 199 - 21);
     QCOMPARE(Picture::colorAt(image, sliderLeft, 2), from("ScrollbarBlueSliderLeft"));
     QCOMPARE(Picture::colorAt(image, sliderLeft + 8, 2), from("ddScrollbarSliderGrayBlit")); // caps only
     horizontal.option.state &= ~QStyle::State_Enabled;
@@ -284,6 +302,8 @@ void tst_StyleVariants::headerFill()
     QCOMPARE(image.pixelColor(9, 5), QColor(Qt::blue));
     QCOMPARE(image.pixelColor(89, 5), QColor(Qt::blue));
     QCOMPARE(image.pixelColor(40, 19), QColor(Qt::blue));
+    option.palette.setColor(QPalette::ButtonText, Qt::white);
+    QCOMPARE(Picture::boundsOf(paint(QStyle::CE_Header), Qt::white).isEmpty(), text.isEmpty()); // label or arrow
     QVERIFY(Picture::isBlank(paint(QStyle::CE_HeaderSection)));
 }
 

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QSet>
 #include <QStyleFactory>
+#include <QTranslator>
 
 #include <cstring>
 #include <iostream>
@@ -41,5 +42,6 @@ int main(int argc, char *argv[])
     bool isGood = report(isVersionRight, "headers and library are of different versions");
     isGood &= report(hasFace(button), "a button has no face: the artwork is not found");
     isGood &= report(QStyleFactory::keys().contains(QStringLiteral("cc4")), "the style plugin is not found");
+    isGood &= report(QTranslator().load("zelcmnctrl03_en", TRANSLATIONS_DIR), "the catalogues are not found");
     return isGood ? 0 : 1;
 }

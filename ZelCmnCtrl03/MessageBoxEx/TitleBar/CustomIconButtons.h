@@ -25,7 +25,7 @@ public:
     void DrawIcons(QPainter *painter);
 
 Q_SIGNALS:
-    /** Fires with every release of the left mouse button that was pressed here, wherever the pointer is by then. */
+    /** Fires with each release of the left mouse button that it gets, after a press wherever the pointer went. */
     void customClicked();
 
 protected:

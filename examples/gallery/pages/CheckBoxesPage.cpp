@@ -150,6 +150,7 @@ QWidget *makeChoice(State, const MakerSettings &settings, QWidget *parent)
     const OrderTexts &texts = settings.texts.order;
     for (const QString &text : {texts.byPost, texts.inShop, settings.texts.printAll}) {
         auto *button = new CRadioButtonEx(text, panel, labelWidth);
+        button->setChecked(text == texts.byPost); // before anybody is told
         const auto report = settings.report;
         QObject::connect(button, &QAbstractButton::toggled, button, [report, text](bool on) {
             if (on)
@@ -157,7 +158,6 @@ QWidget *makeChoice(State, const MakerSettings &settings, QWidget *parent)
         });
         column->addWidget(button);
     }
-    panel->findChild<CRadioButtonEx *>()->setChecked(true);
     applyForeignStyle(panel, settings);
     panel->resize(panel->sizeHint());
     return panel;

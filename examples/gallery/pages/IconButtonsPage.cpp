@@ -23,11 +23,6 @@ QString noTip(const SampleTexts &texts)
     return QString();
 }
 
-QString printTip(const SampleTexts &texts)
-{
-    return texts.print;
-}
-
 QString openTip(const SampleTexts &texts)
 {
     return texts.open;
@@ -82,9 +77,9 @@ const std::vector<Row> stateRows = {
 
 const std::vector<Row> workingRows = {
     {QStringLiteral("Tool bar"), iconButtons({
-                                     {QStringLiteral("tool-rotate-left"), wideIcon, longTip},
-                                     {QStringLiteral("tool-rotate-right"), wideIcon, longTip},
-                                     {QStringLiteral("print"), squareIcon, printTip},
+                                     {QStringLiteral("tool-rotate-left"), wideIcon},
+                                     {QStringLiteral("tool-rotate-right"), wideIcon},
+                                     {QStringLiteral("print"), squareIcon, longTip},
                                      {QStringLiteral("tool-add"), smallIcon, openTip},
                                      {QStringLiteral("tool-remove"), smallIcon, removeTip},
                                  })},

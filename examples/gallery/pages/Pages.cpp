@@ -7,10 +7,10 @@ namespace gallery {
 const std::vector<PageDescription> &pages()
 {
     static const std::vector<PageDescription> all = {
-        buttonsPage(),     checkBoxesPage(), textBoxesPage(), dropDownsPage(),    listBoxesPage(),
-        labelsPage(),      framesPage(),     slidersPage(),   rangeSlidersPage(), zoomSlidersPage(),
-        iconButtonsPage(), titleBarPage(),   progressPage(),  menusPage(),        standardPage(),
-        formPage(),        tabsPage(),       listsPage(),     scrollBarsPage(),   splittersPage(),
+        buttonsPage(),      checkBoxesPage(), textBoxesPage(),    dropDownsPage(),   listBoxesPage(),   labelsPage(),
+        framesPage(),       slidersPage(),    rangeSlidersPage(), zoomSlidersPage(), iconButtonsPage(), titleBarPage(),
+        messageBoxesPage(), progressPage(),   menusPage(),        standardPage(),    formPage(),        tabsPage(),
+        listsPage(),        scrollBarsPage(), splittersPage(),
     };
     return all;
 }

@@ -8,6 +8,7 @@ namespace gallery {
 PageDescription buttonsPage();
 PageDescription menusPage();
 PageDescription checkBoxesPage();
+PageDescription messageBoxesPage();
 PageDescription textBoxesPage();
 PageDescription dropDownsPage();
 PageDescription listBoxesPage();

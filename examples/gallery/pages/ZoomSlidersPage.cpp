@@ -122,7 +122,8 @@ const std::vector<Column> states = {
 
 const std::vector<Row> workingRows = {
     {QStringLiteral("Zoom"), zoomSlider({smallPicture, largePicture})},
-    {QStringLiteral("Snapping"), zoomSlider({smallPicture, largePicture, QSlider::TicksBelow, true, true})},
+    {QStringLiteral("Signals of a snapping one"),
+     zoomSlider({smallPicture, largePicture, QSlider::TicksBelow, true, true})},
     {QStringLiteral("Colour temperature"), zoomSlider({cooler, warmer})},
 };
 
@@ -130,17 +131,16 @@ const std::vector<Row> workingRows = {
 
 PageDescription zoomSlidersPage()
 {
-    return {
-        QStringLiteral("zoom-slider"),
-        QStringLiteral("Zoom sliders"),
-        {
-            {QStringLiteral("States"),
-             QStringLiteral("The smaller end is on the left, in a layout from right to left too."),
-             table(stateRows, states)},
-            {QStringLiteral("Working controls"),
-             QStringLiteral("The buttons go by one step. With snapping, slider and buttons tell different signals."),
-             workingControls(workingRows)},
-        }};
+    return {QStringLiteral("zoom-slider"),
+            QStringLiteral("Zoom sliders"),
+            {
+                {QStringLiteral("States"),
+                 QStringLiteral("The smaller end is on the left, in a layout from right to left too."),
+                 table(stateRows, states)},
+                {QStringLiteral("Working controls"),
+                 QStringLiteral("The buttons go by one step. Told to snap, it sends other signals and moves as ever."),
+                 workingControls(workingRows)},
+            }};
 }
 
 } // namespace gallery

@@ -1,0 +1,779 @@
+#include "helpers/HouseTest.h"
+
+#include "ButtonEx/ButtonEx.h"
+#include "CheckBoxEx/CheckBoxEx.h"
+#include "LabelEx/LabelEx.h"
+#include "MessageBoxEx/MessageBoxEx.h"
+#include "MessageBoxEx/TitleBar/CustomIconButtons.h"
+#include "MessageBoxEx/TitleBar/TitleBar.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QTranslator>
+
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void(CMessageBoxEx &)>)
+
+namespace {
+
+constexpr int defaultFlag = QMessageBox::Default;
+constexpr int escapeFlag = QMessageBox::Escape;
+constexpr int popupFlag = CMessageBoxEx::popupButton;
+
+const QString inconsistent = QStringLiteral("QMessageBox: Inconsistent button parameters");
+const QString invalid = QStringLiteral("QMessageBox: Invalid button specifier");
+
+using Action = std::function<void(CMessageBoxEx &)>;
+
+/** A widget of a size. */
+class Content : public QWidget
+{
+public:
+    explicit Content(const QSize &size) : m_size(size) {}
+    QSize sizeHint() const override { return m_size; }
+
+private:
+    QSize m_size;
+};
+
+/** Left to right, as a user sees them. */
+QList<CButtonEx *> shownButtons(const CMessageBoxEx &box)
+{
+    QList<CButtonEx *> buttons;
+    for (CButtonEx *button : box.findChildren<CButtonEx *>())
+        if (!button->isHidden())
+            buttons.append(button);
+    return buttons;
+}
+
+QStringList textsOf(const QList<CButtonEx *> &buttons)
+{
+    QStringList texts;
+    for (const CButtonEx *button : buttons)
+        texts.append(button->text());
+    return texts;
+}
+
+QLabel *labelWithText(const CMessageBoxEx &box, const QString &text)
+{
+    for (QLabel *label : box.findChildren<QLabel *>())
+        if (label->text() == text)
+            return label;
+    return nullptr;
+}
+
+void sendMouse(QWidget &widget, QEvent::Type type, const QPoint &position, Qt::MouseButton button,
+               Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, position, widget.mapToGlobal(position), button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void press(QWidget &widget, const QPoint &position, Qt::MouseButton button = Qt::LeftButton)
+{
+    sendMouse(widget, QEvent::MouseButtonPress, position, button, button);
+}
+
+void drag(QWidget &widget, const QPoint &position)
+{
+    sendMouse(widget, QEvent::MouseMove, position, Qt::NoButton, Qt::LeftButton);
+}
+
+void hover(QWidget &widget, const QPoint &position)
+{
+    sendMouse(widget, QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton);
+}
+
+void release(QWidget &widget, const QPoint &position)
+{
+    sendMouse(widget, QEvent::MouseButtonRelease, position, Qt::LeftButton, Qt::NoButton);
+}
+
+void clickClose(CMessageBoxEx &box)
+{
+    for (CCustomIconButtons *button : box.findChildren<CCustomIconButtons *>())
+        if (button->isVisible())
+            QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void recordSignals(CMessageBoxEx &box, QStringList &record)
+{
+    const auto add = [&record](const QString &line) {
+        record.append(line);
+    };
+    const auto named = [add](const char *name) {
+        return [add, name] {
+            add(QLatin1String(name));
+        };
+    };
+    QObject::connect(
+        &box, &CMessageBoxEx::Button_Hit, &box,
+        [add](int button) { add(QStringLiteral("hit %1").arg(button, 0, 16)); });
+    QObject::connect(
+        &box, &CMessageBoxEx::Popup_Notify, &box,
+        [add](const QString &text) { add(QStringLiteral("popup %1").arg(text)); });
+    QObject::connect(&box, &CMessageBoxEx::signal_CheckBoxStateChanged, &box,
+                     [add](int state) { add(QStringLiteral("check %1").arg(state)); });
+    QObject::connect(&box, &CMessageBoxEx::UpdateText, &box, named("update"));
+    QObject::connect(&box, &CMessageBoxEx::signal_CloseEvent, &box, named("close event"));
+    QObject::connect(&box, &CMessageBoxEx::signal_MesssageBoxClosed, &box, named("closed"));
+    QObject::connect(&box, &CMessageBoxEx::signal_HelpLinkClicked, &box, named("help"));
+    QObject::connect(&box, &CMessageBoxEx::signal_EscapePressed, &box, named("escape"));
+}
+
+/** Shows the box, lets `act` play the user, and gives the result; ends the box by done(-1) if `act` did not. */
+int show(CMessageBoxEx &box, const Action &act)
+{
+    QTimer::singleShot(0, &box, [&box, act] {
+        act(box);
+        if (box.isVisible())
+            box.done(-1);
+    });
+    return box.showDialog();
+}
+
+} // namespace
+
+class tst_MessageBoxEx : public HouseTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void specifiers_data();
+    void specifiers();
+    void standardTexts_data();
+    void standardTexts();
+    void buttonsAreFoundByTheirSpecifier();
+    void widthOfTexts_data();
+    void widthOfTexts();
+    void sizeOfContent_data();
+    void sizeOfContent();
+    void newTextsGiveANewSize();
+    void longTextsAndLabelsAreNotCut();
+    void opensInTheMiddleWithNothingCut();
+    void contentGoesBack();
+    void blankHelp();
+    void roads_data();
+    void roads();
+    void countsDown_data();
+    void countsDown();
+    void withoutButtons();
+    void keyboard();
+    void cursorTellsTheEdge_data();
+    void cursorTellsTheEdge();
+    void edgeFollowsThePointer_data();
+    void edgeFollowsThePointer();
+    void edgeStopsAtTheLimits();
+    void stiffBoxStaysAsItIs();
+    void titleBarMovesTheBox();
+    void shadowFadesInEveryDirection();
+    void hardEdge();
+    void boxWithoutParentIsAllPanel();
+    void isADialogForAssistiveTechnology();
+
+private:
+    std::unique_ptr<CMessageBoxEx> makeTextBox(int button0 = 0, int button1 = 0, int button2 = 0,
+                                               const QString &help = QString(), bool noShadow = false)
+    {
+        return std::make_unique<CMessageBoxEx>(m_window.get(), QStringLiteral("Print"), QStringLiteral("Paper"),
+                                               QStringLiteral("No paper"), help, button0, button1, button2, noShadow);
+    }
+    std::unique_ptr<CMessageBoxEx> makeResizeable()
+    {
+        auto box = makeTextBox();
+        box->setResizeable(true);
+        box->move(100, 100);
+        box->show();
+        return box;
+    }
+
+    QTranslator m_texts;
+    std::unique_ptr<QWidget> m_window;
+};
+
+void tst_MessageBoxEx::initTestCase()
+{
+    QVERIFY(m_texts.load(QStringLiteral("zelcmnctrl03_en"), QStringLiteral(ZEL_TRANSLATIONS_DIR)));
+    QVERIFY(QCoreApplication::installTranslator(&m_texts));
+}
+
+void tst_MessageBoxEx::init()
+{
+    HouseTest::init();
+    m_window = std::make_unique<QWidget>();
+    m_window->setGeometry(50, 50, 600, 500);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_MessageBoxEx::cleanup()
+{
+    m_window.reset();
+    HouseTest::cleanup();
+}
+
+void tst_MessageBoxEx::specifiers_data()
+{
+    QTest::addColumn<QList<int>>("given");
+    QTest::addColumn<QStringList>("warnings");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<int>("defaultIndex");
+    QTest::addColumn<QList<int>>("results"); // of a click on each; 0 for one that leaves the box open
+
+    const int yes = QMessageBox::Yes;
+    const int no = QMessageBox::No;
+    const int ok = QMessageBox::Ok;
+    const QStringList okText{QStringLiteral("OK")};
+    const QStringList yesNo{QStringLiteral("Yes"), QStringLiteral("No")};
+    const QStringList three{QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("Cancel")};
+    const QString gap = QStringLiteral("%1; button %2 defined but not button %3").arg(inconsistent);
+    const int cancel = QMessageBox::Cancel;
+    using Ints = QList<int>;
+
+    QTest::newRow("none") << Ints{0, 0, 0} << QStringList() << okText << 0 << Ints{ok};
+    QTest::newRow("two") << Ints{yes, no, 0} << QStringList() << yesNo << 0 << Ints{yes, no};
+    QTest::newRow("three") << Ints{yes, no, cancel} << QStringList() << three << 0 << Ints{yes, no, cancel};
+    QTest::newRow("second is default") << Ints{yes, no | defaultFlag, 0} << QStringList() << yesNo << 1
+                                       << Ints{yes, no};
+    QTest::newRow("later default wins") << Ints{yes | defaultFlag, no | defaultFlag, 0} << QStringList() << yesNo << 1
+                                        << Ints{yes, no};
+    QTest::newRow("escape alone") << Ints{yes, no | escapeFlag, 0} << QStringList() << yesNo << -1 << Ints{yes, no};
+    QTest::newRow("escape and default") << Ints{yes | defaultFlag, no | escapeFlag, 0} << QStringList() << yesNo << 0
+                                        << Ints{yes, no};
+    QTest::newRow("second without first") << Ints{0, yes, 0} << QStringList{inconsistent} << okText << 0 << Ints{ok};
+    QTest::newRow("third without second") << Ints{yes, 0, no} << QStringList{inconsistent} << okText << 0 << Ints{ok};
+    QTest::newRow("negative second") << Ints{yes, -1, 0} << QStringList{invalid} << QStringList{QStringLiteral("Yes")}
+                                     << -1 << Ints{yes}; // -1 has all flags
+    QTest::newRow("second beyond the last") << Ints{yes, 0x8000001, no} << QStringList{invalid, gap.arg(3).arg(2)}
+                                            << QStringList{QStringLiteral("Yes")} << 0 << Ints{yes};
+    QTest::newRow("first beyond the last") << Ints{0x8000001, 0, 0} << QStringList{invalid} << okText << 0 << Ints{ok};
+    QTest::newRow("first invalid, others good")
+        << Ints{-1, yes | defaultFlag, no} << QStringList{invalid, gap.arg(2).arg(1), gap.arg(3).arg(2)} << okText << 0
+        << Ints{ok};
+    QTest::newRow("without a text") << Ints{QMessageBox::Close, 0, 0} << QStringList() << QStringList{QString()} << 0
+                                    << Ints{QMessageBox::Close};
+    QTest::newRow("save is a popup") << Ints{yes, QMessageBox::Save, 0} << QStringList()
+                                     << QStringList{QStringLiteral("Yes"), QString()} << 0 << Ints{yes, 0};
+    QTest::newRow("popup") << Ints{yes | popupFlag, no, 0} << QStringList()
+                           << QStringList{QString(), QStringLiteral("No")} << 0 << Ints{0, no};
+}
+
+void tst_MessageBoxEx::specifiers()
+{
+    QFETCH(QList<int>, given);
+    QFETCH(QStringList, warnings);
+    QFETCH(QStringList, texts);
+    QFETCH(int, defaultIndex);
+    QFETCH(QList<int>, results);
+
+    for (int index = 0; index < results.size(); ++index) {
+        for (const QString &warning : warnings)
+            announceWarning(warning);
+        const auto box = makeTextBox(given.at(0), given.at(1), given.at(2));
+        const QList<CButtonEx *> buttons = shownButtons(*box);
+        QCOMPARE(textsOf(buttons), texts);
+        for (int i = 0; i < buttons.size(); ++i) {
+            QCOMPARE(buttons.at(i)->buttonStyle() == CButtonEx::BSEX_Active, i == defaultIndex);
+            QCOMPARE(buttons.at(i)->isDefault(), i == defaultIndex);
+        }
+        const int stillOpen = -1;
+        const int result = show(*box, [index](CMessageBoxEx &shown) {
+            const QList<CButtonEx *> all = shownButtons(shown);
+            for (int i = 1; i < all.size(); ++i) // right-aligned, in the order of the arguments
+                QVERIFY(all.at(i)->x() > all.at(i - 1)->geometry().right());
+            QTest::mouseClick(all.at(index), Qt::LeftButton);
+        });
+        QCOMPARE(result, results.at(index) != 0 ? results.at(index) : stillOpen);
+    }
+}
+
+void tst_MessageBoxEx::standardTexts_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::newRow("OK") << int(QMessageBox::Ok);
+    QTest::newRow("Cancel") << int(QMessageBox::Cancel);
+    QTest::newRow("Yes") << int(QMessageBox::Yes);
+    QTest::newRow("No") << int(QMessageBox::No);
+    QTest::newRow("Abort") << int(QMessageBox::Abort);
+    QTest::newRow("Retry") << int(QMessageBox::Retry);
+    QTest::newRow("Ignore") << int(QMessageBox::Ignore);
+    QTest::newRow("Yes to All") << int(QMessageBox::YesToAll);
+    QTest::newRow("No to All") << int(QMessageBox::NoToAll);
+}
+
+void tst_MessageBoxEx::standardTexts()
+{
+    QFETCH(int, button);
+    QCOMPARE(textsOf(shownButtons(*makeTextBox(button))), QStringList(QLatin1String(QTest::currentDataTag())));
+}
+
+void tst_MessageBoxEx::buttonsAreFoundByTheirSpecifier()
+{
+    const int popup = QMessageBox::Apply | popupFlag;
+    const auto box = makeTextBox(QMessageBox::Yes | defaultFlag, popup, QMessageBox::No);
+    box->setButtonText(QMessageBox::Yes, QStringLiteral("Print"));
+    box->setButtonText(popup, QStringLiteral("Options"));
+    box->setButtonText(QMessageBox::Apply, QStringLiteral("without the flag"));
+    box->setButtonText(QMessageBox::Cancel, QStringLiteral("no such button"));
+    box->setButtonEnabled(QMessageBox::No, false);
+    box->setButtonEnabled(QMessageBox::Cancel, false);
+    const QList<CButtonEx *> buttons = shownButtons(*box);
+    QCOMPARE(textsOf(buttons), QStringList({QStringLiteral("Print"), QStringLiteral("Options"), QStringLiteral("No")}));
+    QVERIFY(buttons.at(0)->isEnabled() && buttons.at(1)->isEnabled() && !buttons.at(2)->isEnabled());
+}
+
+void tst_MessageBoxEx::widthOfTexts_data()
+{
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<int>("width");
+    QTest::newRow("one button") << 1 << 390;
+    QTest::newRow("two buttons") << 2 << 390;
+    QTest::newRow("three buttons") << 3 << 440;
+}
+
+// Runs in other languages as well, see CMakeLists.txt.
+void tst_MessageBoxEx::widthOfTexts()
+{
+    QFETCH(int, buttons);
+    QFETCH(int, width);
+    const QString language = qEnvironmentVariable("ZEL_LANGUAGE");
+    const bool isRoomy = language == QLatin1String("el") || language == QLatin1String("hu");
+    const auto box = makeTextBox(QMessageBox::Yes, buttons > 1 ? int(QMessageBox::No) : 0,
+                                 buttons > 2 ? int(QMessageBox::Cancel) : 0);
+    const int allowance = isRoomy ? 40 : 0;
+    const QSize expected(width + allowance, box->layout()->totalSizeHint().height() + allowance);
+    QCOMPARE(box->minimumSize(), expected);
+    QCOMPARE(box->size(), expected);
+    QCOMPARE(box->maximumSize(), QApplication::primaryScreen()->availableSize());
+}
+
+void tst_MessageBoxEx::sizeOfContent_data()
+{
+    QTest::addColumn<QSize>("content");
+    QTest::addColumn<QString>("help");
+    QTest::addColumn<bool>("noButton");
+    QTest::addColumn<QSize>("size");
+    const QString help = QStringLiteral("Help");
+    QTest::newRow("low") << QSize(100, 20) << QString() << false << QSize(390, 75);
+    QTest::newRow("as wide as the floor") << QSize(390, 20) << QString() << false << QSize(390, 75);
+    QTest::newRow("one pixel wider") << QSize(391, 31) << QString() << false << QSize(419, 76);
+    QTest::newRow("help") << QSize(100, 200) << help << false << QSize(390, 265);
+    QTest::newRow("blank help") << QSize(100, 200) << QStringLiteral(" ") << false << QSize(390, 265);
+    QTest::newRow("no button") << QSize(100, 200) << QString() << true << QSize(390, 210);
+    QTest::newRow("help, no button") << QSize(100, 200) << help << true << QSize(390, 230);
+}
+
+void tst_MessageBoxEx::sizeOfContent()
+{
+    QFETCH(QSize, content);
+    QFETCH(QString, help);
+    QFETCH(bool, noButton);
+    QFETCH(QSize, size);
+    auto *widget = new Content(content);
+    const auto box = help.isNull()
+                         ? std::make_unique<CMessageBoxEx>(m_window.get(), QStringLiteral("Print"), widget)
+                         : std::make_unique<CMessageBoxEx>(m_window.get(), QStringLiteral("Print"), help, widget);
+    if (!noButton && !help.isNull())
+        QCOMPARE(box->size(), size);
+    if (noButton)
+        box->setNoButton(true);
+    QCOMPARE(box->minimumSize(), size);
+    box->updateTitle(QStringLiteral("nothing to change here"));
+    QCOMPARE(box->minimumSize(), size);
+    QVERIFY(box->maximumHeight() > size.height());
+}
+
+void tst_MessageBoxEx::newTextsGiveANewSize()
+{
+    const auto box = makeTextBox();
+    const QSize before = box->size();
+    QString longText;
+    for (int i = 0; i < 40; ++i)
+        longText += QStringLiteral("many words ");
+    box->updateDescription(longText);
+    QVERIFY(labelWithText(*box, longText) != nullptr);
+    QVERIFY(box->height() > before.height() + 30);
+    QCOMPARE(box->minimumSize(), box->maximumSize());
+    const int tall = box->height();
+    box->updateTitle(longText);
+    QVERIFY(box->height() > tall + 30);
+    box->updateTitle(QStringLiteral("Paper"));
+    box->updateDescription(QStringLiteral("No paper"));
+    QCOMPARE(box->size(), before);
+}
+
+void tst_MessageBoxEx::longTextsAndLabelsAreNotCut()
+{
+    const QString label = QStringLiteral("Alle erneut drucken");
+    const auto box = makeTextBox(QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel, QStringLiteral("Hilfe"));
+    box->updateDescription(QStringLiteral("Kein Papier")); // fixes the size
+    for (const int button : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel})
+        box->setButtonText(button, label);
+    show(*box, [](CMessageBoxEx &shown) {
+        for (const CButtonEx *button : shownButtons(shown)) {
+            QVERIFY(button->width() > button->fontMetrics().horizontalAdvance(button->text()));
+            QVERIFY(shown.contentsRect().contains(QRect(button->mapTo(&shown, QPoint(0, 0)), button->size())));
+        }
+        for (const QLabel *text : shown.findChildren<QLabel *>())
+            QVERIFY(text->height() >= text->heightForWidth(text->width()));
+    });
+}
+
+void tst_MessageBoxEx::opensInTheMiddleWithNothingCut()
+{
+    auto *widget = new Content(QSize(300, 200));
+    CMessageBoxEx box(m_window.get(), QStringLiteral("Print"), QStringLiteral("Help"), widget, QMessageBox::Ok);
+    show(box, [widget](CMessageBoxEx &shown) {
+        const QRect area = QApplication::primaryScreen()->availableGeometry();
+        QCOMPARE(shown.pos(), QPoint((area.width() - shown.width()) / 2, (area.height() - shown.height()) / 2));
+        QVERIFY(widget->height() >= 200);
+        QVERIFY(shown.isModal());
+    });
+    CMessageBoxEx small(nullptr, QStringLiteral("Print"), widget);
+    show(small, [](CMessageBoxEx &shown) {
+        QCOMPARE(shown.width(), 390);
+        QVERIFY(shown.height() < 400);
+    });
+    delete widget;
+}
+
+void tst_MessageBoxEx::contentGoesBack()
+{
+    const std::unique_ptr<Content> widget = std::make_unique<Content>(QSize(50, 50));
+    {
+        CMessageBoxEx box(m_window.get(), QStringLiteral("Print"), widget.get());
+        QCOMPARE(widget->window(), &box);
+        show(box, [](CMessageBoxEx &shown) { shown.close(); });
+        QVERIFY(widget->parent() == nullptr);
+    }
+    QCOMPARE(widget->sizeHint(), QSize(50, 50)); // alive
+
+    // Neither a widget that goes while the box has it, nor none at all.
+    auto *going = new Content(QSize(50, 50));
+    CMessageBoxEx left(m_window.get(), QStringLiteral("Print"), going);
+    QCOMPARE(show(left, [going](CMessageBoxEx &) { delete going; }), -1);
+    CMessageBoxEx empty(m_window.get(), QStringLiteral("Print"), static_cast<QWidget *>(nullptr));
+    QCOMPARE(show(empty, [](CMessageBoxEx &) {}), -1);
+}
+
+void tst_MessageBoxEx::blankHelp()
+{
+    const QString blank = QStringLiteral("  ");
+    QVERIFY(makeTextBox(0, 0, 0, blank)->findChild<CLabelEx *>() == nullptr);
+    CMessageBoxEx box(m_window.get(), QStringLiteral("Print"), blank, new QWidget, QMessageBox::Ok);
+    const QLabel *caption = labelWithText(box, blank);
+    QVERIFY(caption != nullptr);
+    QVERIFY(!caption->font().underline());
+}
+
+void tst_MessageBoxEx::roads_data()
+{
+    QTest::addColumn<Action>("act");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<int>("result"); // -1: still open
+
+    const auto clickButton = [](int index) {
+        return [index](CMessageBoxEx &box) {
+            QTest::mouseClick(shownButtons(box).at(index), Qt::LeftButton);
+        };
+    };
+    const auto escape = [](CMessageBoxEx &box) {
+        QTest::keyClick(&box, Qt::Key_Escape);
+    };
+    QTest::newRow("button") << Action(clickButton(1)) << QStringList{"hit 10000"} << int(QMessageBox::No);
+    QTest::newRow("popup button") << Action(clickButton(2)) << QStringList{"hit 2000800", "popup Options"} << -1;
+    QTest::newRow("close button") << Action(clickClose) << QStringList{"close event", "closed"} << 0;
+    QTest::newRow("close button, standing result") << Action([](CMessageBoxEx &box) {
+        box.setResult(7);
+        clickClose(box);
+    }) << QStringList{"close event", "closed"} << 7;
+    QTest::newRow("escape") << Action(escape) << QStringList{"escape"} << -1;
+    QTest::newRow("escape, answered") << Action([escape](CMessageBoxEx &box) {
+        QObject::connect(&box, &CMessageBoxEx::signal_EscapePressed, &box, &QWidget::close);
+        escape(box);
+    }) << QStringList{"escape", "close event"}
+                                      << 0;
+    QTest::newRow("help link") << Action([](CMessageBoxEx &box) {
+        QTest::mouseClick(box.findChild<CLabelEx *>(), Qt::LeftButton);
+    }) << QStringList{"help"} << -1;
+    QTest::newRow("check box") << Action([](CMessageBoxEx &box) {
+        QVERIFY(!box.checkState());
+        box.findChild<CCheckBoxEx *>()->click();
+        QVERIFY(box.checkState());
+        box.setCheckBoxState(false);
+    }) << QStringList{"check 2", "check 0"}
+                               << -1;
+    QTest::newRow("close()") << Action([](CMessageBoxEx &box) { box.close(); }) << QStringList{"close event"} << 0;
+    QTest::newRow("slot_close()") << Action([](CMessageBoxEx &box) { box.slot_close(); }) << QStringList{"closed"}
+                                  << -1;
+    QTest::newRow("right button of the mouse") << Action([](CMessageBoxEx &box) {
+        QTest::mouseClick(shownButtons(box).at(0), Qt::RightButton);
+        QTest::mouseClick(box.findChild<CLabelEx *>(), Qt::RightButton);
+    }) << QStringList() << -1;
+}
+
+void tst_MessageBoxEx::roads()
+{
+    QFETCH(Action, act);
+    QFETCH(QStringList, expected);
+    QFETCH(int, result);
+    const int options = QMessageBox::Apply | popupFlag;
+    CMessageBoxEx box(m_window.get(), QStringLiteral("Print"), QStringLiteral("Paper"), QStringLiteral("No paper"),
+                      QStringLiteral("Help"), true, QStringLiteral("Do not ask again"), QMessageBox::Yes,
+                      QMessageBox::No | escapeFlag, options);
+    box.setButtonText(options, QStringLiteral("Options"));
+    QStringList record;
+    recordSignals(box, record);
+    QCOMPARE(show(box, act), result);
+    QCOMPARE(record, expected);
+}
+
+void tst_MessageBoxEx::countsDown_data()
+{
+    QTest::addColumn<int>("seconds");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("0") << 0 << QStringList{"close event", "update"};
+    QTest::newRow("negative") << -3 << QStringList{"close event", "update"};
+    QTest::newRow("1") << 1 << QStringList{"update", "close event", "update"};
+}
+
+void tst_MessageBoxEx::countsDown()
+{
+    QFETCH(int, seconds);
+    QFETCH(QStringList, expected);
+    const auto box = makeTextBox();
+    QStringList record;
+    recordSignals(*box, record);
+    QCOMPARE(box->setAutoClose(seconds), 0);
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(box->showDialog(), int(QDialog::Accepted));
+    QCOMPARE(record, expected);
+    QVERIFY(clock.elapsed() > 900LL * (qMax(seconds, 0) + 1));
+    VERIFY_HOLDS_FOR(record == expected, 1200); // the timer has ended
+}
+
+void tst_MessageBoxEx::withoutButtons()
+{
+    const auto box = makeTextBox(QMessageBox::Yes);
+    CButtonEx *button = shownButtons(*box).at(0);
+    const QSignalSpy hits(box.get(), &CMessageBoxEx::Button_Hit);
+    const int height = box->height();
+    box->setNoButton(true);
+    QVERIFY(box->height() < height);
+    button->click();
+    QCOMPARE(int(hits.count()), 0);
+    box->setNoButton(false);
+    box->setNoButton(false);
+    QCOMPARE(box->height(), height);
+    button->click();
+    QCOMPARE(int(hits.count()), 1);
+}
+
+void tst_MessageBoxEx::keyboard()
+{
+    const auto box = makeTextBox(QMessageBox::Yes, QMessageBox::No | defaultFlag);
+    const int result = show(*box, [](CMessageBoxEx &shown) {
+        QTRY_VERIFY(shown.isActiveWindow());
+        const QList<CButtonEx *> buttons = shownButtons(shown);
+        QCOMPARE(QApplication::focusWidget(), buttons.at(1));
+        QTest::keyClick(buttons.at(1), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), buttons.at(0));
+        QTest::keyClick(buttons.at(0), Qt::Key_Return);
+    });
+    QCOMPARE(result, int(QMessageBox::Yes));
+}
+
+void tst_MessageBoxEx::cursorTellsTheEdge_data()
+{
+    QTest::addColumn<QPoint>("fromBottomRight"); // of the box's last pixel
+    QTest::addColumn<int>("shape");
+    QTest::newRow("right edge, outermost") << QPoint(5, 60) << int(Qt::SizeHorCursor);
+    QTest::newRow("right edge, innermost") << QPoint(10, 60) << int(Qt::SizeHorCursor);
+    QTest::newRow("inside of it") << QPoint(11, 60) << int(Qt::ArrowCursor);
+    QTest::newRow("outside of it") << QPoint(4, 60) << int(Qt::ArrowCursor);
+    QTest::newRow("right edge, above the corner") << QPoint(7, 16) << int(Qt::SizeHorCursor);
+    QTest::newRow("between edge and corner") << QPoint(7, 12) << int(Qt::ArrowCursor);
+    QTest::newRow("bottom edge") << QPoint(60, 6) << int(Qt::SizeVerCursor);
+    QTest::newRow("above it") << QPoint(60, 7) << int(Qt::ArrowCursor);
+    QTest::newRow("corner") << QPoint(7, 6) << int(Qt::SizeFDiagCursor);
+}
+
+void tst_MessageBoxEx::cursorTellsTheEdge()
+{
+    QFETCH(QPoint, fromBottomRight);
+    QFETCH(int, shape);
+    const auto box = makeResizeable();
+    hover(*box, box->rect().bottomRight() - fromBottomRight);
+    QCOMPARE(int(box->cursor().shape()), shape);
+    // A pointer that jumps to what is inside takes no edge along.
+    Pointer::enter(*box->findChild<CTitleBar *>());
+    QCOMPARE(int(box->cursor().shape()), int(Qt::ArrowCursor));
+}
+
+void tst_MessageBoxEx::edgeFollowsThePointer_data()
+{
+    QTest::addColumn<QPoint>("fromBottomRight");
+    QTest::addColumn<bool>("isWidthFree");
+    QTest::addColumn<bool>("isHeightFree");
+    QTest::newRow("right") << QPoint(7, 60) << true << false;
+    QTest::newRow("bottom") << QPoint(60, 6) << false << true;
+    QTest::newRow("corner") << QPoint(7, 6) << true << true;
+}
+
+void tst_MessageBoxEx::edgeFollowsThePointer()
+{
+    QFETCH(QPoint, fromBottomRight);
+    QFETCH(bool, isWidthFree);
+    QFETCH(bool, isHeightFree);
+    const auto box = makeResizeable();
+    const QSize before = box->size();
+    const QPoint start = box->rect().bottomRight() - fromBottomRight;
+    hover(*box, start);
+    press(*box, start);
+    drag(*box, QPoint(500, 450));
+    QCOMPARE(box->size(), QSize(isWidthFree ? 512 : before.width(), isHeightFree ? 462 : before.height()));
+    release(*box, QPoint(500, 450));
+    QCOMPARE(int(box->cursor().shape()), int(Qt::ArrowCursor));
+    drag(*box, QPoint(550, 470));
+    QCOMPARE(box->size(), QSize(isWidthFree ? 512 : before.width(), isHeightFree ? 462 : before.height()));
+}
+
+void tst_MessageBoxEx::edgeStopsAtTheLimits()
+{
+    const auto box = makeResizeable();
+    const QSize smallest = box->minimumSize();
+    const QRect screen = box->screen()->availableGeometry();
+    const QPoint corner = box->rect().bottomRight() - QPoint(7, 6);
+    hover(*box, corner);
+    press(*box, corner);
+    drag(*box, QPoint(3000, 100));
+    QCOMPARE(box->width(), box->maximumWidth());
+    drag(*box, QPoint(10, 10));
+    QCOMPARE(box->size(), smallest);
+    // Within 12 pixels of the end of the work area, and beyond: the box ends there.
+    for (const int globalY : {screen.bottom() + 1 - 11, screen.bottom() + 300}) {
+        drag(*box, box->mapFromGlobal(QPoint(600, globalY)));
+        QCOMPARE(box->geometry().bottom(), screen.bottom());
+    }
+}
+
+void tst_MessageBoxEx::stiffBoxStaysAsItIs()
+{
+    const auto box = makeResizeable();
+    box->setResizeable(false);
+    const QRect before = box->geometry();
+    const QPoint edge = box->rect().bottomRight() - QPoint(7, 60);
+    hover(*box, edge);
+    QCOMPARE(int(box->cursor().shape()), int(Qt::ArrowCursor));
+    press(*box, edge);
+    drag(*box, edge + QPoint(50, 50));
+    QCOMPARE(box->geometry(), before);
+}
+
+// Here no window system moves the window: it does so itself.
+void tst_MessageBoxEx::titleBarMovesTheBox()
+{
+    const auto box = makeResizeable();
+    const QSignalSpy moved(box.get(), &CMessageBoxEx::MessageBox_Moved);
+    auto *bar = box->findChild<CTitleBar *>();
+    press(*bar, QPoint(50, 10), Qt::RightButton);
+    drag(*bar, QPoint(80, 30));
+    QCOMPARE(box->pos(), QPoint(100, 100));
+
+    press(*bar, QPoint(50, 10));
+    drag(*bar, QPoint(80, 30));
+    QCOMPARE(box->pos(), QPoint(130, 120));
+    QVERIFY(moved.count() > 0);
+    release(*bar, QPoint(50, 10));
+    drag(*bar, QPoint(90, 40));
+    QCOMPARE(box->pos(), QPoint(130, 120));
+
+    const QPoint body(50, 60);
+    press(*box, body);
+    drag(*box, body + QPoint(20, 20));
+    release(*box, body);
+    QCOMPARE(box->pos(), QPoint(130, 120));
+    QCOMPARE(box->size(), box->minimumSize());
+}
+
+void tst_MessageBoxEx::shadowFadesInEveryDirection()
+{
+    const auto box = makeTextBox();
+    const QImage image = box->grab().toImage();
+    const QRect panel = box->contentsRect().adjusted(0, 0, 2, 2);
+    const auto lightness = [&image](const QPoint &point) {
+        return image.pixelColor(point).lightness();
+    };
+    const QPoint right(panel.right(), 100);
+    const QPoint bottom(100, panel.bottom());
+    for (int step = 1; step < 8; ++step) {
+        QVERIFY(lightness(right + QPoint(step, 0)) < lightness(right + QPoint(step + 1, 0)));
+        QVERIFY(lightness(bottom + QPoint(0, step)) < lightness(bottom + QPoint(0, step + 1)));
+        // Across the corner as well, where separate strokes would leave gaps.
+        const QPoint corner = panel.bottomRight() + QPoint(step, step) / 2;
+        QVERIFY(lightness(corner) <= lightness(corner + QPoint(1, 1)));
+    }
+    QVERIFY(lightness(right + QPoint(1, 0)) < 160);
+    QVERIFY(lightness(right) > 220);
+    QVERIFY(lightness(right + QPoint(9, 0)) > 250);
+}
+
+void tst_MessageBoxEx::hardEdge()
+{
+    const auto box = makeTextBox(0, 0, 0, QString(), true);
+    QCOMPARE(box->contentsMargins(), QMargins());
+    const QImage image = box->grab().toImage();
+    const QRect edge = box->rect();
+    const char *const fromOutside[] = {"#ff646464", "#ff646464", "#ffa0a0a0", "#ffacacac", "#ffacacac"};
+    for (int step = 0; step < 5; ++step) {
+        const QString expected = QLatin1String(fromOutside[step]);
+        QCOMPARE(Picture::colorAt(image, edge.right() - step, 100), expected);
+        QCOMPARE(Picture::colorAt(image, 100, edge.bottom() - step), expected);
+    }
+    QVERIFY(image.pixelColor(100, edge.bottom() - 5).lightness() > 220);
+}
+
+void tst_MessageBoxEx::boxWithoutParentIsAllPanel()
+{
+    CMessageBoxEx box(nullptr, QStringLiteral("Print"), QStringLiteral("Paper"));
+    QVERIFY(!box.isModal());
+    QCOMPARE(box.contentsMargins(), QMargins(-2, 0, -2, -2));
+    QCOMPARE(box.width(), 390);
+    const QImage image = box.grab().toImage();
+    for (const QPoint &corner : {box.rect().bottomLeft(), box.rect().bottomRight()})
+        QCOMPARE(Picture::colorAt(image, corner.x(), corner.y()), Picture::colorAt(image, 100, corner.y()));
+    QCOMPARE(box.contentsMargins(), QMargins(-2, 0, -2, -2));
+
+    const auto modal = makeTextBox();
+    QCOMPARE(modal->contentsMargins(), QMargins(0, 0, 14, 10));
+    modal->setModal(true);
+    QCOMPARE(modal->contentsMargins(), QMargins(0, 0, 14, 10));
+    modal->setModal(false);
+    QCOMPARE(modal->contentsMargins(), QMargins(-2, 0, -2, -2));
+}
+
+void tst_MessageBoxEx::isADialogForAssistiveTechnology()
+{
+    const auto box = makeTextBox();
+    QAccessibleInterface *announced = QAccessible::queryAccessibleInterface(box.get());
+    QCOMPARE(announced->role(), QAccessible::Dialog);
+    QCOMPARE(announced->text(QAccessible::Name), QStringLiteral("Print"));
+    QCOMPARE(announced->text(QAccessible::Description), QStringLiteral("Paper\nNo paper"));
+    box->updateDescription(QStringLiteral("Add paper"));
+    QCOMPARE(announced->text(QAccessible::Description), QStringLiteral("Paper\nAdd paper"));
+}
+
+HOUSE_TEST_MAIN(tst_MessageBoxEx)
+#include "tst_MessageBoxEx.moc"
