@@ -1,5 +1,5 @@
-# Debian packages, one per component. `./dev package` makes them from two builds; what does not depend on the major version
-# of Qt comes from the one with ZEL_PACKAGE_SHARED.
+# Debian packages, one per component. `./dev package` makes them from two builds; what does not depend on the major
+# version of Qt comes from the one with ZEL_PACKAGE_SHARED.
 
 set(revision 1)
 set(exactly "(= ${PROJECT_VERSION}-${revision})")
@@ -7,23 +7,23 @@ set(qt qt${ZEL_QT_MAJOR})
 set(zel_packages)
 
 # What a name stands for is said in every description.
-set(library_text "Push buttons, sliders, progress widgets and other controls that draw in one house look, and that look as
-a style for the widgets of Qt. Colours, fonts and bitmaps of the look can be replaced.")
+string(JOIN "\n" library_text "Push buttons, sliders, progress widgets and other controls that draw in one"
+    "house look, and that look as a style for the widgets of Qt. Colours, fonts and"
+    "bitmaps of the look can be replaced.")
 
-# package(COMPONENT NAME SECTION SYNOPSIS SENTENCE [DEPENDENCY]...)
-function(package component name section synopsis sentence)
+# package(COMPONENT NAME SECTION SYNOPSIS CONTENT [DEPENDENCY]...)
+function(package component name section synopsis content)
     get_cmake_property(components COMPONENTS)
     if(NOT component IN_LIST components)
         return()
     endif()
     string(TOUPPER ${component} id)
     string(JOIN ", " depends ${ARGN})
-    string(REPLACE "\n" " " text "${library_text}")
     set(zel_packages ${zel_packages} ${component} PARENT_SCOPE)
     set(CPACK_DEBIAN_${id}_PACKAGE_NAME ${name} PARENT_SCOPE)
     set(CPACK_DEBIAN_${id}_PACKAGE_SECTION ${section} PARENT_SCOPE)
     set(CPACK_DEBIAN_${id}_PACKAGE_DEPENDS "${depends}" PARENT_SCOPE)
-    set(CPACK_DEBIAN_${id}_DESCRIPTION "${synopsis}\n${text}\n.\n${sentence}" PARENT_SCOPE)
+    set(CPACK_DEBIAN_${id}_DESCRIPTION "${synopsis}\n${library_text}\n.\nThis package has ${content}." PARENT_SCOPE)
     install(FILES ${PROJECT_BINARY_DIR}/debian/copyright ${PROJECT_BINARY_DIR}/debian/changelog.gz
         ${PROJECT_BINARY_DIR}/debian/changelog.Debian.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name}
         COMPONENT ${component})
@@ -33,28 +33,28 @@ set(runtime libzelcmnctrl03-${qt}-${PROJECT_VERSION_MAJOR})
 set(qt_development_5 qtbase5-dev)
 set(qt_development_6 qt6-base-dev)
 package(library ${runtime} libs "controls and style of the house for Qt ${ZEL_QT_MAJOR}"
-    "This package has the library that applications run with."
+    "the library that applications run with"
     "libzelcutil03 ${exactly}" "zelcmnctrl03-data ${exactly}")
 package(development libzelcmnctrl03-${qt}-dev libdevel
     "controls and style of the house for Qt ${ZEL_QT_MAJOR} - development files"
-    "This package has what applications are built with: headers, and the packages for CMake and pkg-config."
+    "what applications are built with"
     "${runtime} ${exactly}" "libzelcutil03-dev ${exactly}" "${qt_development_${ZEL_QT_MAJOR}} (>= ${ZEL_QT_MINIMUM})")
 package(style ${qt}-style-plugin-zelcc4 libs "style of the house for any Qt ${ZEL_QT_MAJOR} application"
-    "This package has the style plugin, which every Qt ${ZEL_QT_MAJOR} application can be started with: -style cc4."
+    "the plugin, for applications started with -style cc4"
     "${runtime} ${exactly}")
 if(ZEL_PACKAGE_SHARED)
     package(utility libzelcutil03 libs "log, language and installation settings of the house"
-        "This package has the library that writes the log and knows the language and the installation settings.")
+        "the utility library, which has no Qt in it")
     package(utility_dev libzelcutil03-dev libdevel
         "log, language and installation settings of the house - development files"
-        "This package has the headers, and the packages for CMake and pkg-config, of the library that writes the log."
+        "what users of the utility library are built with"
         "libzelcutil03 ${exactly}")
     package(data zelcmnctrl03-data misc "artwork and catalogues of the house's controls"
-        "This package has what the libraries for all versions of Qt share.")
+        "what the libraries for all versions of Qt share")
     package(gallery zelcmnctrl03-gallery devel "gallery of the house's controls"
-        "This package has a program that shows every control in every state." "${runtime} ${exactly}")
+        "a program that shows every control in every state" "${runtime} ${exactly}")
     package(tools zelcmnctrl03-tools devel "tools for deployers of the house's look"
-        "This package has the programs that check a look which replaces the installed one.")
+        "programs that check a look of one's own")
 endif()
 
 # Documents of every package
@@ -69,15 +69,21 @@ configure_file(CHANGELOG.md ${PROJECT_BINARY_DIR}/debian/changelog COPYONLY)
 execute_process(COMMAND ${ZEL_GZIP} -9nf changelog changelog.Debian WORKING_DIRECTORY ${PROJECT_BINARY_DIR}/debian
     COMMAND_ERROR_IS_FATAL ANY)
 
-# The dynamic loader learns of new libraries.
-file(WRITE ${PROJECT_BINARY_DIR}/debian/triggers "activate-noawait ldconfig\n")
-foreach(component LIBRARY UTILITY)
-    set(CPACK_DEBIAN_${component}_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/triggers)
-endforeach()
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_GENERATE_SHLIBS ON)
+# The dynamic loader learns of new libraries, and packages of applications of the package that they depend on. The
+# utility library has no version in its name, and so no line for those.
+set(control_files ${PROJECT_BINARY_DIR}/debian)
+file(WRITE ${control_files}/triggers "activate-noawait ldconfig\n")
+file(WRITE ${control_files}/shlibs
+    "libZelCmnCtrl03${ZEL_QT_SUFFIX} ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})\n")
+set(CPACK_DEBIAN_UTILITY_PACKAGE_CONTROL_EXTRA ${control_files}/triggers)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${control_files}/triggers ${control_files}/shlibs)
+if(ZEL_QT_MAJOR EQUAL 5)
+    set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS qt5-style-plugin-plastique) # the base of the house style
+endif()
 set(CPACK_DEBIAN_DATA_PACKAGE_ARCHITECTURE all)
 
 set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_COMPONENTS_ALL ${zel_packages})
 set(CPACK_COMPONENTS_GROUPING IGNORE)

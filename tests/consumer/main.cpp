@@ -1,4 +1,4 @@
-// An application of the installed library. It says what is wrong with the installation, and ends with 0 where nothing is.
+// An application of the installed library. It says what is wrong with the installation, and ends with 0 if nothing is.
 
 #include <ZelCmnCtrl03/CButtonEx>
 #include <ZelCmnCtrl03/ZelCmnCtrl03Version>
