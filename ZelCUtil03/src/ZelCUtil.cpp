@@ -37,8 +37,9 @@ std::string installedArtwork()
     const std::filesystem::path library = platform::libraryDirectory();
     if (library.empty())
         return std::string();
-    const std::filesystem::path artwork = (library / ZELCUTIL03_ARTWORK_FROM_LIBRARY).lexically_normal();
+    // Links count: where /lib is one to /usr/lib, the loader may have come that way, and there is no /share.
     std::error_code error;
+    const std::filesystem::path artwork = std::filesystem::canonical(library / ZELCUTIL03_ARTWORK_FROM_LIBRARY, error);
     return std::filesystem::is_directory(artwork, error) ? artwork.u8string() : std::string();
 }
 

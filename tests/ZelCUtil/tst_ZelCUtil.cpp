@@ -366,18 +366,22 @@ void TestZelCUtil::otherPaths()
 
 void TestZelCUtil::artworkBesideLibrary_data()
 {
+    QTest::addColumn<QString>("loadedFrom");
     QTest::addColumn<bool>("isInstalled");
-    QTest::newRow("installed") << true;
-    QTest::newRow("not installed") << false;
+    QTest::newRow("installed") << "moved/lib/deep" << true;
+    QTest::newRow("not installed") << "moved/lib/deep" << false;
+    QTest::newRow("installed, loaded through a link") << "link" << true; // as /lib is one to /usr/lib
 }
 
 void TestZelCUtil::artworkBesideLibrary()
 {
+    QFETCH(QString, loadedFrom);
     QFETCH(bool, isInstalled);
-    const Home home({{"LD_LIBRARY_PATH", "%/moved/lib/deep"}});
+    const Home home({{"LD_LIBRARY_PATH", "%/" + loadedFrom}});
     const QString copy = home.path("moved/lib/deep/") + QFileInfo(LIBRARY_FILE).fileName();
     const QString artwork = QDir::cleanPath(QFileInfo(copy).path() + "/" ARTWORK_FROM_LIBRARY);
     QVERIFY(QDir().mkpath(QFileInfo(copy).path()));
+    QVERIFY(QFile::link(home.path("moved/lib/deep"), home.path("link")));
     QVERIFY(QFile::copy(LIBRARY_FILE, copy));
     QVERIFY(!isInstalled || QDir().mkpath(artwork));
     QCOMPARE(home.run({"graphicsdir"}).values["graphicsdir"], isInstalled ? artwork : QString());
