@@ -98,9 +98,11 @@ QByteArray savedByDesigner()
     QFile file(QStringLiteral(FORM));
     if (!file.open(QIODevice::ReadOnly))
         return QByteArray();
-    QCoreApplication::addLibraryPath(QFileInfo(QStringLiteral(PLUGIN_DIR)).path());
+    // Our plugin alone: those of the machine have warnings of their own.
+    QCoreApplication::setLibraryPaths({QFileInfo(QStringLiteral(PLUGIN_DIR)).path()});
     const std::unique_ptr<QDesignerFormEditorInterface> designer(QDesignerComponents::createFormEditor(nullptr));
-    const Widget editor(QDesignerComponents::createPropertyEditor(designer.get(), nullptr)); // the integration needs one
+    const Widget editor(
+        QDesignerComponents::createPropertyEditor(designer.get(), nullptr)); // the integration needs one
     designer->setPropertyEditor(static_cast<QDesignerPropertyEditorInterface *>(editor.get()));
     new QDesignerIntegration(designer.get(), designer.get());
     QDesignerComponents::initializePlugins(designer.get());
