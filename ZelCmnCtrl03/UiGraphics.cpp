@@ -1,5 +1,6 @@
 #include "UiGraphics.h"
 
+#include "Platform/Platform.h"
 #include "UiGraphicsColors.h"
 #include "UiGraphicsXml.h"
 #include "include/qt_globals.h"
@@ -7,6 +8,8 @@
 #include <QFile>
 #include <QLibrary>
 #include <QScopedValueRollback>
+
+#include <utility>
 
 bool CUIGraphics::m_bInitialized = false;
 bool CUIGraphics::m_bStarting = false;
@@ -16,10 +19,21 @@ QString CUIGraphics::m_sLanguage;
 QString CUIGraphics::m_sGraphicsDir;
 QMap<QString, quint32> CUIGraphics::m_colorMap;
 QMap<QString, QString> CUIGraphics::m_fontMap;
+LookUse CUIGraphics::m_use;
 
 namespace {
 
 const QString xmlName = QStringLiteral("/UIGraphics.xml");
+
+QString missingEntryPoints(bool hasGetLanguage, bool hasRetrievePath)
+{
+    QStringList missing;
+    if (!hasGetLanguage)
+        missing.append(QStringLiteral("it has no GetLanguage"));
+    if (!hasRetrievePath)
+        missing.append(QStringLiteral("it has no RetrievePath"));
+    return missing.join(QStringLiteral(", "));
+}
 
 } // namespace
 
@@ -58,10 +72,17 @@ bool CUIGraphics::loadUtilityLibrary()
     library.setLoadHints(QLibrary::PreventUnloadHint);
     if (!library.load()) {
         ZEL_UIG_DETAIL(QStringLiteral("library load of zelcutil failed"));
+        m_use.utilityProblem = library.errorString();
         return false;
     }
+    m_use.utilityProblem.clear();
     m_pRetrievePath = reinterpret_cast<RetrievePathFunction>(library.resolve("RetrievePath"));
     m_pGetLanguage = reinterpret_cast<GetLanguageFunction>(library.resolve("GetLanguage"));
+    const auto *entryPoint = m_pGetLanguage != nullptr ? reinterpret_cast<void *>(m_pGetLanguage)
+                                                       : reinterpret_cast<void *>(m_pRetrievePath);
+    m_use.utilityLibrary = entryPoint != nullptr ? Platform::fileOfAddress(entryPoint) : QString();
+    if (m_use.utilityLibrary.isEmpty())
+        m_use.utilityLibrary = library.fileName();
     return true;
 }
 
@@ -102,7 +123,8 @@ void CUIGraphics::readXmlFiles()
     if (m_sGraphicsDir.isEmpty())
         return;
     // The language's file comes second, so that its values win.
-    for (const QString &path : {m_sGraphicsDir + xmlName, m_sGraphicsDir + QLatin1Char('/') + m_sLanguage + xmlName})
+    m_use.xmlSought = QStringList{m_sGraphicsDir + xmlName, m_sGraphicsDir + QLatin1Char('/') + m_sLanguage + xmlName};
+    for (const QString &path : std::as_const(m_use.xmlSought))
         if (QFile::exists(path))
             ReadUIGraphicsXml(path);
 }
@@ -112,16 +134,40 @@ void CUIGraphics::ReadUIGraphicsXml(const QString &path)
     ZEL_LOG_SCOPE_OF(zel::UiGraphics);
     ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::ReadUIGraphicsXml : ") + path);
     const LookOverrides overrides = readLookOverrides(path);
-    for (const LookOverride &color : overrides.colors) {
-        const auto held = m_colorMap.find(color.name);
-        if (held != m_colorMap.end())
-            *held = color.text.toUInt(nullptr, 16);
+    m_use.xmlRead.append(ReadXml{path, 0, 0, {}});
+    m_use.xmlRead.last().colors = apply(
+        overrides.colors, m_colorMap, [](const QString &text) { return text.toUInt(nullptr, 16); });
+    m_use.xmlRead.last().families = apply(overrides.fonts, m_fontMap, [](const QString &text) { return text; });
+}
+
+// Gives the number of overrides that found their key.
+template <typename Held, typename Convert>
+int CUIGraphics::apply(const QVector<LookOverride> &overrides, QMap<QString, Held> &held, Convert convert)
+{
+    int applied = 0;
+    for (const LookOverride &override : overrides) {
+        const auto entry = held.find(override.name);
+        if (entry == held.end()) {
+            m_use.xmlRead.last().notAKey.append(override.name);
+            continue;
+        }
+        *entry = convert(override.text);
+        ++applied;
     }
-    for (const LookOverride &font : overrides.fonts) {
-        const auto held = m_fontMap.find(font.name);
-        if (held != m_fontMap.end())
-            *held = font.text;
-    }
+    return applied;
+}
+
+LookUse CUIGraphics::use()
+{
+    LookUse use = m_use;
+    use.isStarted = m_bInitialized;
+    use.language = m_sLanguage;
+    use.graphicsDir = m_sGraphicsDir;
+    if (m_bInitialized)
+        use.utilityProblem = missingEntryPoints(m_pGetLanguage != nullptr, m_pRetrievePath != nullptr);
+    if (m_bInitialized)
+        use.fonts = fontsInUse();
+    return use;
 }
 
 QColor UIGGetColor(const QString &name)

@@ -1,6 +1,8 @@
 // The look registry: the one source of the colours, fonts and bitmaps of the house look, asked by name.
 #pragma once
 
+#include "UiGraphicsUse.h"
+
 #include <QColor>
 #include <QFont>
 #include <QIcon>
@@ -8,6 +10,9 @@
 #include <QMap>
 #include <QPixmap>
 #include <QString>
+#include <QVector>
+
+struct LookOverride;
 
 /**
  * The process-wide data behind the lookups below.
@@ -42,12 +47,18 @@ public:
     /** UIGGetImagePath for a registry that has started. */
     static QString RetrieveFilePath(const QString &fileName);
 
+    /** What the registry has found, read and missed in this process up to now. Does not start it. */
+    static LookUse use();
+
 private:
     friend QColor UIGGetColor(const QString &name);
     friend QFont UIGGetFont(int pixelSize, int weight, bool italic);
     friend QFont UIGGetUnderlinedFont(int pixelSize, int weight, bool italic);
     friend QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic);
     friend QFont UIGGetFont(const QString &name);
+    friend QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio);
+    friend QImage UIGGetImage(const QString &fileName);
+    friend QIcon UIGGetIcon(const QString &fileName);
 
     using GetLanguageFunction = const char16_t *(*)();
     using RetrievePathFunction = void (*)(const char16_t *key, const char16_t **value, int reserved);
@@ -66,14 +77,20 @@ private:
 
     static bool loadUtilityLibrary();
     static void GetCULValues(const QString &key);
+    static QString pathOfBitmap(const QString &fileName);
+    template <typename Picture>
+    static Picture checked(const Picture &picture, const QString &path);
     static void initializeColorMap();
     static void initializeFontMap();
     static void readXmlFiles();
     static void ReadUIGraphicsXml(const QString &path);
+    template <typename Held, typename Convert>
+    static int apply(const QVector<LookOverride> &overrides, QMap<QString, Held> &held, Convert convert);
     static void initializeFont();
     static void chooseLanguageFonts(HeldFonts &fonts);
     static QFont fontOfFamily(const QString &familyKey, int pointSize);
     static HeldFonts &heldFonts();
+    static QVector<HeldFont> fontsInUse();
     static const QFont &standardFontForSize(int pixelSize);
 
     static bool m_bInitialized;
@@ -84,6 +101,7 @@ private:
     static QString m_sGraphicsDir;
     static QMap<QString, quint32> m_colorMap;
     static QMap<QString, QString> m_fontMap;
+    static LookUse m_use;
 };
 
 /** The opaque colour of a UIGCLR_ key. A key that does not exist gives black. */

@@ -64,10 +64,26 @@ QString CUIGraphics::UIGGetImagePath(const QString &fileName)
 {
     initializeUIG();
     ZEL_LOG_SCOPE_OF(zel::UiGraphics);
-    const QString path = RetrieveFilePath(fileName);
+    const QString path = pathOfBitmap(fileName);
     if (!path.isEmpty())
         ZEL_UIG_DETAIL(path);
     return path;
+}
+
+QString CUIGraphics::pathOfBitmap(const QString &fileName)
+{
+    const QString path = RetrieveFilePath(fileName);
+    if (path.isEmpty() && !fileName.isEmpty())
+        m_use.missingBitmaps.insert(fileName);
+    return path;
+}
+
+template <typename Picture>
+Picture CUIGraphics::checked(const Picture &picture, const QString &path)
+{
+    if (picture.isNull())
+        m_use.unreadableBitmaps.insert(path);
+    return picture;
 }
 
 QString CUIGraphics::UIGetLocalizedPath(const QString &nonLocalizedPath)
@@ -94,27 +110,27 @@ QString CUIGraphics::UIGetLocalizedPath(const QString &nonLocalizedPath)
 QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::RetrieveFilePath(fileName);
+    const QString path = CUIGraphics::pathOfBitmap(fileName);
     if (path.isEmpty())
         return QPixmap();
     const QString twin = devicePixelRatio > 1.0 ? doubleResolutionPath(path) : QString();
     if (twin.isEmpty())
-        return QPixmap(path);
+        return CUIGraphics::checked(QPixmap(path), path);
     QPixmap pixmap(twin);
     pixmap.setDevicePixelRatio(2.0); // also where Qt was told not to read it from the name
-    return pixmap;
+    return CUIGraphics::checked(pixmap, twin);
 }
 
 QImage UIGGetImage(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::RetrieveFilePath(fileName);
-    return path.isEmpty() ? QImage() : QImage(path);
+    const QString path = CUIGraphics::pathOfBitmap(fileName);
+    return path.isEmpty() ? QImage() : CUIGraphics::checked(QImage(path), path);
 }
 
 QIcon UIGGetIcon(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::RetrieveFilePath(fileName);
+    const QString path = CUIGraphics::pathOfBitmap(fileName);
     return path.isEmpty() ? QIcon() : QIcon(path);
 }

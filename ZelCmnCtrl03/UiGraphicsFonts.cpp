@@ -109,7 +109,9 @@ void CUIGraphics::chooseLanguageFonts(HeldFonts &fonts)
         ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Tahoma"));
     } else {
         // One that is no font leaves the family to the platform's font matching.
-        if (!Platform::registerPrivateFont(privateFont))
+        m_use.privateFont = privateFont;
+        m_use.isPrivateFontRegistered = Platform::registerPrivateFont(privateFont);
+        if (!m_use.isPrivateFontRegistered)
             ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeFont : not registered: %1").arg(privateFont));
         fonts.m_standardFont = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
         ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Kor Sans Medium"));
@@ -132,6 +134,15 @@ CUIGraphics::HeldFonts &CUIGraphics::heldFonts()
     if (!m_bInitialized && !m_bStarting)
         *fonts = HeldFonts(); // the application's font may be another one by now
     return *fonts;
+}
+
+QVector<HeldFont> CUIGraphics::fontsInUse()
+{
+    const HeldFonts &fonts = heldFonts();
+    return {
+        {QStringLiteral("standard"), fonts.m_standardFont}, {QStringLiteral("tool tips"), fonts.m_tooltipFont},
+        {QStringLiteral("small"), fonts.m_smallFont},       {QStringLiteral("sans serif"), fonts.m_sansSerifFont},
+        {QStringLiteral("Verdana"), fonts.m_verdanaFont},   {QStringLiteral("shell dialogs"), fonts.m_shellDlgFont}};
 }
 
 const QFont &CUIGraphics::standardFontForSize(int pixelSize)

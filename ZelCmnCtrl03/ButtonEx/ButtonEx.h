@@ -31,7 +31,16 @@ class ZELCMNCTRL_EXPORT CButtonEx : public QPushButton
 {
     Q_OBJECT
     /** The look by its name, such as "BSEX_Active". A text that is no name keeps the look and empties the property. */
-    Q_PROPERTY(QString buttonStyle READ getButtonStyle WRITE setButtonStyle)
+    Q_PROPERTY(QString buttonStyle READ getButtonStyle WRITE setButtonStyle DESIGNABLE false)
+    /** The same look as an enumerator, for editors that offer a choice. */
+    Q_PROPERTY(CButtonStyles look READ buttonStyle WRITE setButtonStyle)
+    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
+    Q_PROPERTY(bool chevron READ chevron WRITE setChevron)
+    /** The image. Leaves the size, unlike setImage(). */
+    Q_PROPERTY(QPixmap pixmap READ pixmap WRITE setPixmap)
+    // Over those of the bases, whose setters the ones of this class hide.
+    Q_PROPERTY(QFont font READ font WRITE setFont)
+    Q_PROPERTY(bool default READ isDefault WRITE setDefault)
 
 public:
     /** The looks. The enumerators' words are also their names in the `buttonStyle` property. */

@@ -28,6 +28,8 @@ class ZELCMNCTRL_EXPORT CCustomIconButton : public QWidget
     Q_OBJECT
     /** The tool tip, and the accessible name of a button that has none of its own. Empty at first. */
     Q_PROPERTY(QString toolTipText READ toolTipText WRITE setToolTipText)
+    /** The icon; see AddIcons(). */
+    Q_PROPERTY(QPixmap icon READ icon WRITE AddIcons)
 
 public:
     explicit CCustomIconButton(QWidget *parent = nullptr);
@@ -41,6 +43,8 @@ public:
      * size. 11 x 11 and 19 x 13 are the sizes that lie in the middle of the bevel.
      */
     void AddIcons(QPixmap pixmap);
+    /** The icon as it was given; null while there is none. */
+    const QPixmap &icon() const { return m_icon; }
 
     /** Draws the icon as it is now, grey on a disabled button, with a painter in the button's coordinates. */
     void DrawIcons(QPainter *painter);

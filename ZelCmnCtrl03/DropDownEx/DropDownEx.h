@@ -33,6 +33,9 @@ class CDropDownScrollBarStyle;
 class ZELCMNCTRL_EXPORT CDropDownEx : public QComboBox
 {
     Q_OBJECT
+    /** Whether items have their text as their tool tip; see enableToolTipsForDropDownElements(). */
+    Q_PROPERTY(
+        bool toolTipsForDropDownElements READ hasToolTipsForDropDownElements WRITE enableToolTipsForDropDownElements)
 
 public:
     explicit CDropDownEx(QWidget *parent = nullptr);
@@ -61,6 +64,7 @@ public:
      * Items that are in the list already keep what they have until the list is filled the next time.
      */
     void enableToolTipsForDropDownElements(bool enable);
+    bool hasToolTipsForDropDownElements() const { return m_bToolTipsForItems; }
 
     /** QWidget's; also makes the current text the tool tip of the box. */
     void setEnabled(bool enabled);

@@ -33,12 +33,16 @@ void CFrame::SetGradientFrame(QColor color)
     m_lineColor = color;
 }
 
-// One colour stands for the gradient of one stop: it fills all of it. An invalid colour counts as black, as it does in
-// a gradient.
+// An invalid colour counts as black, as it does in a gradient.
+QColor CFrame::gradientFrame() const
+{
+    return m_lineColor.isValid() ? m_lineColor : QColor(Qt::black);
+}
+
+// One colour stands for the gradient of one stop: it fills all of it.
 void CFrame::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const int middle = height() / 2;
-    const QColor color = m_lineColor.isValid() ? m_lineColor : QColor(Qt::black);
-    PaintTools::fillLine(&painter, QPoint(0, middle), QPoint(width(), middle), color);
+    PaintTools::fillLine(&painter, QPoint(0, middle), QPoint(width(), middle), gradientFrame());
 }

@@ -13,6 +13,8 @@
 class ZELCMNCTRL_EXPORT CFrame : public QFrame
 {
     Q_OBJECT
+    /** The colour of the line; see SetGradientFrame(). */
+    Q_PROPERTY(QColor gradientFrame READ gradientFrame WRITE SetGradientFrame)
 
 public:
     explicit CFrame(QWidget *parent = nullptr);
@@ -20,6 +22,8 @@ public:
 
     /** The colour of the whole line; black at first, and for an invalid colour. Shows with the next repaint. */
     void SetGradientFrame(QColor color);
+    /** The colour that the line is drawn in. */
+    QColor gradientFrame() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

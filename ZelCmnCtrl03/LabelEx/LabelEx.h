@@ -19,6 +19,8 @@
 class ZELCMNCTRL_EXPORT CLabelEx : public QLabel
 {
     Q_OBJECT
+    /** Whether photos can be dropped here; see setDrag(). */
+    Q_PROPERTY(bool drag READ takesDrags WRITE setDrag)
 
 public:
     explicit CLabelEx(QWidget *parent = nullptr);
@@ -32,6 +34,7 @@ public:
      * them.
      */
     void setDrag(bool enabled);
+    bool takesDrags() const { return m_bDrag; }
 
     /** True while a click has somebody to hear it, and the label is no part of a button. */
     bool isClickable() const;

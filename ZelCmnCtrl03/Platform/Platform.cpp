@@ -3,6 +3,7 @@
 #include "include/qt_compat.h"
 
 #include <QCursor>
+#include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -20,6 +21,8 @@
 #include <windows.h>
 
 #include <shellapi.h> // builds on windows.h
+#else
+#include <dlfcn.h>
 #endif
 
 namespace Platform {
@@ -85,6 +88,23 @@ QString displayName(const QString &path)
 #else
     const QFileInfo file(path);
     return file.exists() ? file.fileName() : QString();
+#endif
+}
+
+QString fileOfAddress(const void *address)
+{
+#ifdef Q_OS_WIN
+    constexpr DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+    HMODULE library = nullptr;
+    wchar_t path[MAX_PATH];
+    if (GetModuleHandleExW(flags, static_cast<LPCWSTR>(address), &library) == 0)
+        return QString();
+    return QString::fromWCharArray(path, static_cast<int>(GetModuleFileNameW(library, path, MAX_PATH)));
+#else
+    Dl_info info;
+    if (dladdr(address, &info) == 0 || info.dli_fname == nullptr)
+        return QString();
+    return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath();
 #endif
 }
 

@@ -30,6 +30,13 @@ bool registerPrivateFont(const QString &path);
 QString displayName(const QString &path);
 
 /**
+ * The file of the library or program that the address, of a function for instance, was loaded from.
+ *
+ * Empty where the system does not tell.
+ */
+QString fileOfAddress(const void *address);
+
+/**
  * A style object of its own that draws standard push buttons as the platform does.
  *
  * Where the platform has no native style it is Fusion, whose light, thin-lined buttons look at home in the house

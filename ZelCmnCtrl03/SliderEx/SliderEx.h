@@ -27,6 +27,8 @@ class QStyleOptionSlider;
 class ZELCMNCTRL_EXPORT CSliderEx : public QSlider
 {
     Q_OBJECT
+    /** The image in place of the drawn handle; see setKnobImage(). */
+    Q_PROPERTY(QPixmap knobImage READ knobImage WRITE setKnobImage)
 
 public:
     /** A vertical slider from 0 to 99, as QSlider makes it; see setOrientation(). */

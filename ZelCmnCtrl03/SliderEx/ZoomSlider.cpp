@@ -182,6 +182,18 @@ const QPixmap &CZoomSlider::largerButtonImage() const
     return m_pLargerButton->pixmap();
 }
 
+void CZoomSlider::fitSmallerButtonImage(const QPixmap &image)
+{
+    m_pSmallerButton->setPixmap(image);
+    m_pSmallerButton->setMaximumSize(sizeForImage(m_pSmallerButton));
+}
+
+void CZoomSlider::fitLargerButtonImage(const QPixmap &image)
+{
+    m_pLargerButton->setPixmap(image);
+    m_pLargerButton->setFixedSize(sizeForImage(m_pLargerButton));
+}
+
 void CZoomSlider::setMaximum(int maximum)
 {
     ZEL_LOG_SCOPE;
@@ -227,6 +239,11 @@ void CZoomSlider::setSliderToSnapping(bool on)
 {
     ZEL_LOG_SCOPE;
     d->m_bSnapping = on;
+}
+
+bool CZoomSlider::isSliderToSnapping() const
+{
+    return d->m_bSnapping;
 }
 
 void CZoomSlider::setZoomed(int zoomValue)

@@ -32,12 +32,25 @@ class QGridLayout;
 class ZELCMNCTRL_EXPORT CZoomSlider : public QWidget
 {
     Q_OBJECT
+    // The range comes before the position, which it bounds.
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int sliderPosition READ sliderPosition WRITE setSliderPosition)
+    Q_PROPERTY(QPixmap knobImage READ knobImage WRITE setKnobImage)
+    /**
+     * The images of the buttons. Set as properties they also give their buttons the room that the constructor with
+     * images gives: a form is built without that one.
+     */
+    Q_PROPERTY(QPixmap smallerButtonImage READ smallerButtonImage WRITE fitSmallerButtonImage)
+    Q_PROPERTY(QPixmap largerButtonImage READ largerButtonImage WRITE fitLargerButtonImage)
+    /** See setSliderToSnapping(). */
+    Q_PROPERTY(bool sliderToSnapping READ isSliderToSnapping WRITE setSliderToSnapping)
 
 public:
     /**
      * Without images. The buttons get their greatest size from their images here and now, so these ones stay 4 x 4
-     * pixels whatever images follow, and temperatureSliderPressed() and temperatureSliderReleased() only come through
-     * the slots.
+     * pixels whatever setSmallerButtonImage() and setLargerButtonImage() bring, and temperatureSliderPressed() and
+     * temperatureSliderReleased() only come through the slots.
      */
     explicit CZoomSlider(QWidget *parent = nullptr);
     /**
@@ -82,6 +95,7 @@ public:
 
     /** Whether changes that come from the slider are told by signal_SliderMoved() in place of zoomChanged(). */
     void setSliderToSnapping(bool on);
+    bool isSliderToSnapping() const;
 
 Q_SIGNALS:
     /**
@@ -124,6 +138,8 @@ private:
 
     void createParts();
     void layOutParts();
+    void fitSmallerButtonImage(const QPixmap &image);
+    void fitLargerButtonImage(const QPixmap &image);
     void nameParts();
     void stepBy(int step);
 

@@ -16,6 +16,9 @@
 class ZELCMNCTRL_EXPORT CTextBoxEx : public QLineEdit
 {
     Q_OBJECT
+    /** The look. It sets the text colour too, so it comes before that one. */
+    Q_PROPERTY(CLineEditStyles lineEditStyle READ lineEditStyle WRITE setLineEditStyle)
+    Q_PROPERTY(CLineEditColor lineEditColor READ lineEditColor WRITE setLineEditColor)
 
 public:
     /** The looks of frame and background. Any other value gives a box without both. */
@@ -43,6 +46,8 @@ public:
     /** True from the focus-in event to the focus-out event. */
     const bool &isFocussed() const { return m_bFocussed; }
     const CLineEditStyles &lineEditStyle() const { return m_lineEditStyle; }
+    /** The text colour that was set last, by either of the two setters. */
+    const CLineEditColor &lineEditColor() const { return m_lineEditColor; }
 
     /**
      * Sets the look, and with it the text colour: blue for LineEditTransparent, gray for any other value. For another

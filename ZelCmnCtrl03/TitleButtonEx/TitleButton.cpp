@@ -31,6 +31,17 @@ void CTitleButton::AddIcons(QPixmap *pixmap)
     m_pIcon = pixmap;
 }
 
+QPixmap CTitleButton::icon() const
+{
+    return m_pIcon != nullptr ? *m_pIcon : QPixmap();
+}
+
+void CTitleButton::keepIcon(const QPixmap &icon)
+{
+    m_keptIcon = icon;
+    AddIcons(&m_keptIcon);
+}
+
 void CTitleButton::DrawIcons(QPainter *painter)
 {
     ZEL_LOG_SCOPE;

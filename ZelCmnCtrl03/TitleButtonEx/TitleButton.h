@@ -3,10 +3,10 @@
 #include "include/qt_compat.h"
 #include "include/zelcmnctrl_export.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 class QPainter;
-class QPixmap;
 
 /**
  * The small button for title bars that an application makes itself: one pixmap in 17 x 17 pixels, with a bevel of two
@@ -19,6 +19,8 @@ class QPixmap;
 class ZELCMNCTRL_EXPORT CTitleButton : public QWidget
 {
     Q_OBJECT
+    /** The icon. Set as a property it is copied, and the button keeps the copy; AddIcons() keeps none. */
+    Q_PROPERTY(QPixmap icon READ icon WRITE keepIcon)
 
 public:
     explicit CTitleButton(QWidget *parent = nullptr);
@@ -32,6 +34,8 @@ public:
      * or until another one is set. Null gives no icon.
      */
     void AddIcons(QPixmap *pixmap);
+    /** A copy of the icon; null while there is none. */
+    QPixmap icon() const;
 
     /** Draws the icon with a painter in the button's coordinates. */
     void DrawIcons(QPainter *painter);
@@ -54,6 +58,9 @@ protected:
 private:
     Q_DISABLE_COPY(CTitleButton)
 
-    QPixmap *m_pIcon = nullptr; // the caller's
-    int m_iState = 0;           // of IconButtonPainting::State
+    void keepIcon(const QPixmap &icon);
+
+    QPixmap *m_pIcon = nullptr; // the caller's, or the one below
+    QPixmap m_keptIcon;
+    int m_iState = 0; // of IconButtonPainting::State
 };
