@@ -94,6 +94,7 @@ private Q_SLOTS:
     void goesToFile();
     void goesToErrorsWhereFileCannotBeWritten();
     void worksWithoutUtilityLibrary();
+    void tellsOfIncompleteUtilityLibrary();
     void worksWithoutGui_data();
     void worksWithoutGui();
 };
@@ -226,6 +227,18 @@ void tst_SupportReport::worksWithoutUtilityLibrary()
     QCOMPARE(value(report, "utility library"), QStringLiteral("not found"));
     QVERIFY2(value(report, "  problem").contains(QLatin1String("ZelCUtil03")), qPrintable(report));
     QCOMPARE(value(report, "look registry"), QStringLiteral("not started: colours are black"));
+}
+
+void tst_SupportReport::tellsOfIncompleteUtilityLibrary()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral(INCOMPLETE_UTILITY));
+    deployment.set(switchName, on);
+    const QString report = deployment.run(look, QStringLiteral(PROBE_ALONE)).errors;
+    const QString wanted = QFileInfo(QStringLiteral(INCOMPLETE_UTILITY)).canonicalFilePath();
+    QCOMPARE(QFileInfo(value(report, "utility library")).path(), wanted);
+    QCOMPARE(value(report, "  problem"), QStringLiteral("it has no RetrievePath"));
+    QCOMPARE(value(report, "graphics directory"), QStringLiteral("none: the look has no bitmaps"));
 }
 
 void tst_SupportReport::worksWithoutGui_data()
