@@ -17,12 +17,6 @@ QString CUIGraphics::m_sGraphicsDir;
 QMap<QString, quint32> CUIGraphics::m_colorMap;
 QMap<QString, QString> CUIGraphics::m_fontMap;
 
-namespace {
-
-const QString xmlName = QStringLiteral("/UIGraphics.xml");
-
-} // namespace
-
 bool CUIGraphics::initializeUIG()
 {
     if (m_bInitialized)
@@ -102,7 +96,9 @@ void CUIGraphics::readXmlFiles()
     if (m_sGraphicsDir.isEmpty())
         return;
     // The language's file comes second, so that its values win.
-    for (const QString &path : {m_sGraphicsDir + xmlName, m_sGraphicsDir + QLatin1Char('/') + m_sLanguage + xmlName})
+    const QString common = m_sGraphicsDir + QLatin1Char('/');
+    for (const QString &path :
+         {common + lookOverridesFile, common + m_sLanguage + QLatin1Char('/') + lookOverridesFile})
         if (QFile::exists(path))
             ReadUIGraphicsXml(path);
 }
@@ -115,7 +111,7 @@ void CUIGraphics::ReadUIGraphicsXml(const QString &path)
     for (const LookOverride &color : overrides.colors) {
         const auto held = m_colorMap.find(color.name);
         if (held != m_colorMap.end())
-            *held = color.text.toUInt(nullptr, 16);
+            *held = colorValue(color.text);
     }
     for (const LookOverride &font : overrides.fonts) {
         const auto held = m_fontMap.find(font.name);

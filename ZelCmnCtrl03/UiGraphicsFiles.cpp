@@ -1,22 +1,13 @@
 #include "UiGraphics.h"
 
 #include "Platform/Platform.h"
+#include "UiGraphicsBitmaps.h"
 #include "include/qt_globals.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
-
-// "name.png" gives "name@2x.png"; empty when no such file stands beside it.
-QString doubleResolutionPath(const QString &path)
-{
-    const QFileInfo file(path);
-    const QString twin =
-        file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String("@2x.") + file.suffix();
-    return QFile::exists(twin) ? twin : QString();
-}
 
 QString withDisplayNames(const QString &path, QChar separator)
 {
@@ -97,8 +88,8 @@ QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
     const QString path = CUIGraphics::RetrieveFilePath(fileName);
     if (path.isEmpty())
         return QPixmap();
-    const QString twin = devicePixelRatio > 1.0 ? doubleResolutionPath(path) : QString();
-    if (twin.isEmpty())
+    const QString twin = doubleResolutionPath(path);
+    if (devicePixelRatio <= 1.0 || !QFile::exists(twin))
         return QPixmap(path);
     QPixmap pixmap(twin);
     pixmap.setDevicePixelRatio(2.0); // also where Qt was told not to read it from the name
