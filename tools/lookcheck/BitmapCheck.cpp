@@ -54,9 +54,11 @@ QStringList strangersIn(const QString &directory)
 /** One bitmap of the look as it was found. */
 struct FoundBitmap
 {
-    const LookBitmap *bitmap;
+    const LookBitmap *bitmap = nullptr;
     QString path; // empty: missing
     QSize size;   // invalid: missing or unreadable
+    QString twinPath;
+    BitmapFile twin; // that was found there
     QStringList misfits;
 };
 
@@ -83,7 +85,9 @@ public:
 private:
     FoundBitmap find(const LookBitmap &bitmap)
     {
-        FoundBitmap found{&bitmap, m_look.find(nameOf(bitmap)), QSize(), {}};
+        FoundBitmap found;
+        found.bitmap = &bitmap;
+        found.path = m_look.find(nameOf(bitmap));
         if (found.path.isEmpty()) {
             if (!m_mayLack)
                 tellMissing(nameOf(bitmap));
@@ -94,6 +98,11 @@ private:
         if (!file.error.isEmpty())
             m_findings->add({Severity::Error, found.path, 0, file.error + QStringLiteral(" Nothing is drawn."),
                              QStringLiteral("Put a PNG file in its place.")});
+        const QString twinPath = doubleResolutionPath(found.path);
+        if (!QFileInfo::exists(twinPath))
+            return found;
+        found.twinPath = twinPath;
+        found.twin = readBitmap(twinPath);
         return found;
     }
 
@@ -107,7 +116,8 @@ private:
                              : QStringLiteral("Is it %1? Names count letter for letter.").arg(quoted(near))});
     }
 
-    // Of bitmaps that should share a measure, those are odd that differ from most; of two, the later one.
+    // Of bitmaps that should share a measure, those are odd that differ from most; of two, the one that its twin does
+    // not confirm, or else the later one.
     void compare(const std::function<const char16_t *(const LookBitmap &)> &groupOf, int (QSize::*measure)() const,
                  const QString &adjective)
     {
@@ -128,7 +138,7 @@ private:
     {
         QMap<int, int> counts;
         for (const FoundBitmap *found : group)
-            ++counts[(found->size.*measure)()];
+            counts[(found->size.*measure)()] += found->twin.size == 2 * found->size ? 3 : 2;
         int usual = (group.constFirst()->size.*measure)();
         for (auto count = counts.cbegin(); count != counts.cend(); ++count)
             if (count.value() > counts.value(usual))
@@ -177,20 +187,18 @@ private:
 
     void checkTwin(const FoundBitmap &found)
     {
-        const QString path = doubleResolutionPath(found.path);
-        if (!QFileInfo::exists(path)) {
-            m_findings->add({Severity::Note, found.path, 0,
-                             QStringLiteral("There is no @2x twin: screens of high density enlarge this one."),
-                             QStringLiteral("Put %1 beside it.").arg(QFileInfo(path).fileName())});
-            return;
-        }
-        const BitmapFile twin = readBitmap(path);
-        if (!twin.error.isEmpty())
-            m_findings->add({Severity::Error, path, 0,
+        const BitmapFile &twin = found.twin;
+        if (found.twinPath.isEmpty())
+            m_findings->add(
+                {Severity::Note, found.path, 0,
+                 QStringLiteral("There is no @2x twin: screens of high density enlarge this one."),
+                 QStringLiteral("Put %1 beside it.").arg(QFileInfo(doubleResolutionPath(found.path)).fileName())});
+        else if (!twin.error.isEmpty())
+            m_findings->add({Severity::Error, found.twinPath, 0,
                              twin.error + QStringLiteral(" Screens of high density draw nothing."),
                              QStringLiteral("Put a PNG file in its place, or take it away.")});
         else if (twin.size != 2 * found.size)
-            m_findings->add({Severity::Error, path, 0,
+            m_findings->add({Severity::Error, found.twinPath, 0,
                              QStringLiteral("The twin is %1 pixels and not twice as large as its original of %2.")
                                  .arg(textOf(twin.size), textOf(found.size)),
                              QStringLiteral("Draw it in %1 pixels.").arg(textOf(2 * found.size))});

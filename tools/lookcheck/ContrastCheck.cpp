@@ -18,7 +18,7 @@ namespace {
 constexpr double readable = 4.5;  // WCAG 2, level AA, for text that is not large; no text of the controls is
 constexpr double highest = 21.0;  // of any two colours: black and white
 constexpr double noticed = 0.05;  // a difference that shows in the number as printed
-constexpr int gradientSteps = 16; // a text may be as light as the middle of its gradient
+constexpr int gradientSteps = 64; // a text may be as light as the middle of its gradient
 constexpr int opaque = 255;
 
 // Where the label stands on a push button: rows 6 to 20 of 27.
@@ -64,8 +64,9 @@ double lowestOnBitmap(const QColor &text, int alpha, const QImage &bitmap, const
 {
     double lowest = highest;
     const int columns = std::min(bitmap.width(), widestTile);
-    for (int y = bitmap.height() * labelTop / faceHeight; y <= (bitmap.height() - 1) * labelBottom / (faceHeight - 1);
-         ++y) {
+    const int top = (bitmap.height() * labelTop + faceHeight - 1) / faceHeight; // a row that is wholly behind the label
+    const int bottom = (bitmap.height() - 1) * labelBottom / (faceHeight - 1);
+    for (int y = top; y <= bottom; ++y) {
         for (int x = 0; x < columns; ++x) {
             const QColor pixel = bitmap.pixelColor(x, y);
             lowest = std::min(lowest, ratioOn(text, alpha, mixed(pixel, behind, pixel.alphaF())));

@@ -8,7 +8,7 @@ namespace lookcheck {
 
 namespace {
 
-constexpr int letterCost = 2; // twice that of a letter in the other case
+constexpr int letterCost = 8; // that of a letter in the other case is 1
 constexpr int longestName = 80;
 
 int costOf(QChar left, QChar right)
