@@ -88,8 +88,10 @@ QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
     const QString path = CUIGraphics::RetrieveFilePath(fileName);
     if (path.isEmpty())
         return QPixmap();
+    if (devicePixelRatio <= 1.0)
+        return QPixmap(path);
     const QString twin = doubleResolutionPath(path);
-    if (devicePixelRatio <= 1.0 || !QFile::exists(twin))
+    if (!QFile::exists(twin))
         return QPixmap(path);
     QPixmap pixmap(twin);
     pixmap.setDevicePixelRatio(2.0); // also where Qt was told not to read it from the name

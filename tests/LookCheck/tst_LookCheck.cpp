@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -169,6 +170,7 @@ private Q_SLOTS:
     void cannotRun();
     void hostileFiles_data();
     void hostileFiles();
+    void pipesAreNotWaitedFor();
     void tableIsTheArtwork();
     void tableKnowsWhatPaintersAskFor();
     void sheetShowsWhatDiffers();
@@ -439,6 +441,21 @@ void tst_LookCheck::hostileFiles()
     rusage usage{};
     QCOMPARE(getrusage(RUSAGE_CHILDREN, &usage), 0);
     QVERIFY2(usage.ru_maxrss < mostMemory, qPrintable(QString::number(usage.ru_maxrss)));
+}
+
+void tst_LookCheck::pipesAreNotWaitedFor()
+{
+    const Deployment deployment;
+    const QStringList names{QStringLiteral("Close.png"), QStringLiteral("Fonts/KORZEMED.otf"),
+                            QStringLiteral("UIGraphics.xml")};
+    QVERIFY(QDir(deployment.path()).mkdir(QStringLiteral("Fonts")));
+    QStringList expected;
+    for (const QString &name : names) {
+        QFile::remove(deployment.path(name));
+        QCOMPARE(mkfifo(QFile::encodeName(deployment.path(name)).constData(), 0600), 0);
+        expected.append(name + QStringLiteral(":0 error"));
+    }
+    QCOMPARE(deployment.findings(), expected);
 }
 
 void tst_LookCheck::tableIsTheArtwork()

@@ -10,20 +10,13 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 
+#include <algorithm>
+
 namespace lookcheck {
 
 namespace {
 
 constexpr qint64 largestFont = 64 * 1024 * 1024; // bytes; the largest fonts of today, for all of CJK, have some 20
-
-QStringList installedFamilies()
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return QFontDatabase::families();
-#else
-    return QFontDatabase().families();
-#endif
-}
 
 // The families of a file, as the library makes them known; empty when it is no font.
 QStringList familiesOfFile(const QString &path)
@@ -39,14 +32,30 @@ QStringList familiesOfFile(const QString &path)
     return families;
 }
 
-// Qt takes the first family of a list that is there, and tells makers apart in square brackets.
-bool isInstalled(const QString &family, const QStringList &installed)
+bool isSameFamily(const QString &left, const QString &right)
 {
-    for (const QString &name : family.split(QLatin1Char(',')))
-        for (const QString &candidate : installed)
-            if (candidate.section(QStringLiteral(" ["), 0, 0).compare(name.trimmed(), Qt::CaseInsensitive) == 0)
-                return true;
-    return false;
+    // Qt tells makers apart in square brackets.
+    return left.section(QStringLiteral(" ["), 0, 0).compare(right, Qt::CaseInsensitive) == 0;
+}
+
+QString shownFor(const QString &family)
+{
+    return QFontInfo(QFont(family)).family();
+}
+
+// Qt takes the first family of a list that is there.
+bool isInstalled(const QString &family)
+{
+    const QStringList names = family.split(QLatin1Char(','));
+    return std::any_of(names.cbegin(), names.cend(),
+                       [](const QString &name) { return isSameFamily(shownFor(name.trimmed()), name.trimmed()); });
+}
+
+bool isAmong(const QString &family, const QStringList &families)
+{
+    return std::any_of(
+        families.cbegin(), families.cend(),
+        [&family](const QString &candidate) { return isSameFamily(candidate, family.trimmed()); });
 }
 
 // The keys that a language's texts come from.
@@ -94,7 +103,7 @@ void checkPrivateFont(const Look &look, Findings *findings)
     if (families.isEmpty())
         findings->add({Severity::Error, path, 0, QStringLiteral("The private font cannot be read, or is no font."),
                        QStringLiteral("Put an OpenType or TrueType font in its place.")});
-    else if (!isInstalled(family.value, families) && !family.isFaulty)
+    else if (!isAmong(family.value, families) && !family.isFaulty)
         findings->add({Severity::Error, family.file.isEmpty() ? path : family.file, family.line,
                        QStringLiteral("The family of the private font is %1, and %2 says %3.")
                            .arg(quoted(families.constFirst()), privateFontKey, quoted(family.value)),
@@ -102,16 +111,16 @@ void checkPrivateFont(const Look &look, Findings *findings)
                            .arg(privateFontKey, harmless(families.constFirst()))});
 }
 
-void checkFamily(const Look &look, const QString &key, const QStringList &installed, Findings *findings)
+void checkFamily(const Look &look, const QString &key, Findings *findings)
 {
     const Given<QString> family = look.family(key);
-    if (family.isFaulty || isInstalled(family.value, installed))
+    if (family.isFaulty || isInstalled(family.value))
         return;
     const bool isGiven = !family.file.isEmpty();
     findings->add({isGiven ? Severity::Warning : Severity::Note,
                    isGiven ? family.file : look.commonPath(lookOverridesFile), family.line,
                    QStringLiteral("This machine has no font family %1 (%2); it shows %3.")
-                       .arg(quoted(family.value), key, quoted(QFontInfo(QFont(family.value)).family())),
+                       .arg(quoted(family.value), key, quoted(shownFor(family.value))),
                    QStringLiteral("Name a family that the machines of your users have, or install it there.")});
 }
 
@@ -122,11 +131,10 @@ void checkFonts(const Look &look, Findings *findings)
     const bool isForLanguage = !look.language().isEmpty();
     if (languageFontOf(look.language()) == nullptr)
         checkPrivateFont(look, findings);
-    const QStringList installed = installedFamilies();
     QStringList keys = isForLanguage ? keysOf(look) : familyKeys();
     keys.removeAll(privateFontKey);
     for (const QString &key : keys)
-        checkFamily(look, key, installed, findings);
+        checkFamily(look, key, findings);
 }
 
 } // namespace lookcheck

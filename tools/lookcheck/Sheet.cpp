@@ -48,6 +48,8 @@ QString writeSheet(const Look &look, const QString &file, const QString &gallery
     const QString program = gallery.isEmpty() ? galleryBesideProgram() : gallery;
     if (program.isEmpty())
         return QStringLiteral("There is no zel_gallery beside this program. Name one with --gallery.");
+    if (!QFileInfo(installedArtwork()).isDir())
+        return QStringLiteral("There is no built-in artwork at '%1' to compare with.").arg(installedArtwork());
     const QTemporaryDir scratch;
     if (!scratch.isValid())
         return QStringLiteral("No temporary directory: %1").arg(scratch.errorString());
