@@ -19,7 +19,7 @@ namespace {
 
 constexpr int runLimit = 60 * 1000; // milliseconds; a run takes less than one, with sanitizers some
 constexpr int cannotRun = 2;
-constexpr long mostMemory = 512 * 1024; // kilobytes; sanitizers included
+constexpr long mostMemory = 512L * 1024; // kilobytes; sanitizers included
 
 QStringList words(const char *text)
 {
@@ -87,7 +87,8 @@ public:
     {
         const Run run(QStringList(options) << QStringLiteral("--json") << path());
         QStringList texts;
-        for (const QJsonValue &value : run.json().value(QStringLiteral("findings")).toArray()) {
+        const QJsonArray array = run.json().value(QStringLiteral("findings")).toArray();
+        for (const auto &value : array) {
             const QJsonObject finding = value.toObject();
             texts.append(QStringLiteral("%1:%2 %3")
                              .arg(QDir(path()).relativeFilePath(finding.value(QStringLiteral("file")).toString()),

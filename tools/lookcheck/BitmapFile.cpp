@@ -12,7 +12,7 @@ namespace {
 
 // Far beyond any control. A small file can say of itself that it is of any size.
 constexpr int largestSide = 4096; // pixels
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(16) * 1024 * 1024;
 
 BitmapFile failed(const QString &error)
 {

@@ -29,7 +29,7 @@ struct OverridesFile
 };
 
 /** What is larger is not read: the file of all keys has some 20 kilobytes. */
-constexpr qint64 largestOverridesFile = 1024 * 1024;
+constexpr qint64 largestOverridesFile = qint64(1024) * 1024;
 
 class Look
 {
