@@ -36,7 +36,7 @@ BitmapFile readBitmap(const QString &path, QImage *image)
     if (!info.isFile())
         return failed(QStringLiteral("This is no file."));
     if (!info.isReadable())
-        return failed(QStringLiteral("Nobody lets this program read the file."));
+        return failed(QStringLiteral("This user may not read the file."));
     if (info.size() > largestFile)
         return tooLarge(QStringLiteral("The file is larger than 16 megabytes."));
     QImageReader reader(path);

@@ -16,7 +16,8 @@ namespace lookcheck {
 
 namespace {
 
-constexpr qint64 largestFont = qint64(64) * 1024 * 1024; // bytes; the largest fonts of today, for all of CJK, have some 20
+constexpr qint64 largestFont =
+    qint64(64) * 1024 * 1024; // bytes; the largest fonts of today, for all of CJK, have some 20
 
 // The families of a file, as the library makes them known; empty when it is no font.
 QStringList familiesOfFile(const QString &path)
