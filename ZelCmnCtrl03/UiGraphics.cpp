@@ -23,8 +23,6 @@ LookUse CUIGraphics::m_use;
 
 namespace {
 
-const QString xmlName = QStringLiteral("/UIGraphics.xml");
-
 QString missingEntryPoints(bool hasGetLanguage, bool hasRetrievePath)
 {
     QStringList missing;
@@ -123,7 +121,8 @@ void CUIGraphics::readXmlFiles()
     if (m_sGraphicsDir.isEmpty())
         return;
     // The language's file comes second, so that its values win.
-    m_use.xmlSought = QStringList{m_sGraphicsDir + xmlName, m_sGraphicsDir + QLatin1Char('/') + m_sLanguage + xmlName};
+    const QString common = m_sGraphicsDir + QLatin1Char('/');
+    m_use.xmlSought = QStringList{common + lookOverridesFile, common + m_sLanguage + QLatin1Char('/') + lookOverridesFile};
     for (const QString &path : std::as_const(m_use.xmlSought))
         if (QFile::exists(path))
             ReadUIGraphicsXml(path);
@@ -136,7 +135,7 @@ void CUIGraphics::ReadUIGraphicsXml(const QString &path)
     const LookOverrides overrides = readLookOverrides(path);
     m_use.xmlRead.append(ReadXml{path, 0, 0, {}});
     m_use.xmlRead.last().colors = apply(
-        overrides.colors, m_colorMap, [](const QString &text) { return text.toUInt(nullptr, 16); });
+        overrides.colors, m_colorMap, colorValue);
     m_use.xmlRead.last().families = apply(overrides.fonts, m_fontMap, [](const QString &text) { return text; });
 }
 

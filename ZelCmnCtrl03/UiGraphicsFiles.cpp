@@ -1,22 +1,13 @@
 #include "UiGraphics.h"
 
 #include "Platform/Platform.h"
+#include "UiGraphicsBitmaps.h"
 #include "include/qt_globals.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
-
-// "name.png" gives "name@2x.png"; empty when no such file stands beside it.
-QString doubleResolutionPath(const QString &path)
-{
-    const QFileInfo file(path);
-    const QString twin =
-        file.path() + QLatin1Char('/') + file.completeBaseName() + QLatin1String("@2x.") + file.suffix();
-    return QFile::exists(twin) ? twin : QString();
-}
 
 QString withDisplayNames(const QString &path, QChar separator)
 {
@@ -114,7 +105,7 @@ QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
     if (path.isEmpty())
         return QPixmap();
     const QString twin = devicePixelRatio > 1.0 ? doubleResolutionPath(path) : QString();
-    if (twin.isEmpty())
+    if (!QFile::exists(twin))
         return CUIGraphics::checked(QPixmap(path), path);
     QPixmap pixmap(twin);
     pixmap.setDevicePixelRatio(2.0); // also where Qt was told not to read it from the name

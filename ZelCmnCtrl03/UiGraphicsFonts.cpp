@@ -1,53 +1,11 @@
 #include "UiGraphics.h"
 
 #include "Platform/Platform.h"
+#include "UiGraphicsFonts.h"
 #include "include/qt_compat.h"
 #include "include/qt_globals.h"
 
 namespace {
-
-struct FamilyDefault
-{
-    const char16_t *key;
-    const char16_t *family;
-};
-
-constexpr FamilyDefault familyDefaults[] = {
-    {u"UIGFONT_KORSANS_MEDIUM", u"KorSans Medium"},
-    {u"UIGFONT_SANS_SERIF", u"SansSerif"},
-    {u"UIGFONT_TAHOMA", u"Tahoma"},
-    {u"UIGFONT_VERDANA", u"Verdana"},
-    {u"UIGFONT_SHELLDLG", u"MS Shell Dlg"},
-    {u"UIGFONT_ARIAL", u"Arial"},
-    {u"UIGFONT_JA", u"MS Gothic"},
-    {u"UIGFONT_ZH-CHS", u"SimSun"},
-    {u"UIGFONT_ZH-CHT", u"Mingliu"},
-    {u"UIGFONT_KO", u"Batang"},
-    {u"UIGFONT_RU", u"Tahoma Cyr"},
-    {u"UIGFONT_EL", u"Tahoma Cyr"},
-    {u"UIGFONT_TR", u"Tahoma Cyr"},
-};
-
-/** A language with a font of its own. */
-struct LanguageFont
-{
-    const char16_t *tag;
-    const char16_t *familyKey;
-    const char16_t *record;
-};
-
-constexpr LanguageFont languageFonts[] = {
-    {u"ja", u"UIGFONT_JA", u"Font is Japanese - MS Gothic"},
-    {u"zh-chs", u"UIGFONT_ZH-CHS", u"Font is Chinese (Simplified)  - SimSun"},
-    {u"zh-cn", u"UIGFONT_ZH-CHS", u"Font is Chinese (Simplified)  - SimSun"},
-    {u"zh-cht", u"UIGFONT_ZH-CHT", u"Font is Chinese (Traditional)  - Mingliu"},
-    {u"zh-tw", u"UIGFONT_ZH-CHT", u"Font is Chinese (Traditional)  - Mingliu"},
-    {u"ko", u"UIGFONT_KO", u"Font is Korean - Batang"},
-    {u"ru", u"UIGFONT_RU", u"Font is Russian - Tahoma Cyr"},
-    {u"el", u"UIGFONT_EL", u"Font is Greek - Tahoma Cyr"},
-    {u"tr", u"UIGFONT_TR", u"Font is Turkish - Tahoma Cyr"},
-    {u"he", u"UIGFONT_TAHOMA", u"Font is Hebrew - Tahoma"},
-};
 
 constexpr int systemFontPoints = 10;
 constexpr int privateFontPoints = 14;
@@ -86,24 +44,21 @@ void CUIGraphics::initializeFont()
     fonts.m_smallFont = fontOfFamily(QStringLiteral("UIGFONT_ARIAL"), systemFontPoints);
     ZEL_UIG_DETAIL(QStringLiteral("Small Font is Arial"));
     // Compared as fonts: QFont may keep another spelling of a family name than the map does.
-    const QFont privateFont = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
+    const QFont privateFont = fontOfFamily(privateFontKey, privateFontPoints);
     fonts.m_bSmallReplacesStandard = fonts.m_standardFont.family() == privateFont.family();
 }
 
 void CUIGraphics::chooseLanguageFonts(HeldFonts &fonts)
 {
-    const QString tag = m_sLanguage.toLower();
-    for (const LanguageFont &language : languageFonts) {
-        if (tag != QString::fromUtf16(language.tag))
-            continue;
-        fonts.m_standardFont = fontOfFamily(QString::fromUtf16(language.familyKey), systemFontPoints);
+    if (const LanguageFont *language = languageFontOf(m_sLanguage)) {
+        fonts.m_standardFont = fontOfFamily(QString::fromUtf16(language->familyKey), systemFontPoints);
         fonts.m_tooltipFont = fonts.m_standardFont;
-        ZEL_UIG_DETAIL(QString::fromUtf16(language.record));
+        ZEL_UIG_DETAIL(QString::fromUtf16(language->record));
         return;
     }
 
     fonts.m_tooltipFont = fontOfFamily(QStringLiteral("UIGFONT_TAHOMA"), systemFontPoints);
-    const QString privateFont = RetrieveFilePath(QStringLiteral("Fonts/KORZEMED.otf"));
+    const QString privateFont = RetrieveFilePath(privateFontFile);
     if (privateFont.isEmpty()) {
         fonts.m_standardFont = fonts.m_tooltipFont;
         ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Tahoma"));
@@ -113,7 +68,7 @@ void CUIGraphics::chooseLanguageFonts(HeldFonts &fonts)
         m_use.isPrivateFontRegistered = Platform::registerPrivateFont(privateFont);
         if (!m_use.isPrivateFontRegistered)
             ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeFont : not registered: %1").arg(privateFont));
-        fonts.m_standardFont = fontOfFamily(QStringLiteral("UIGFONT_KORSANS_MEDIUM"), privateFontPoints);
+        fonts.m_standardFont = fontOfFamily(privateFontKey, privateFontPoints);
         ZEL_UIG_DETAIL(QStringLiteral("Standard Font is Kor Sans Medium"));
     }
     ZEL_UIG_DETAIL(QStringLiteral("Tooltip Font is Tahoma"));

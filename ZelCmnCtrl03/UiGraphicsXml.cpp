@@ -4,8 +4,6 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
-#include <utility>
-
 namespace {
 
 class LookXmlReader
@@ -23,60 +21,82 @@ public:
             default: break;
             }
         }
-        return m_xml.hasError() ? LookOverrides() : m_overrides;
+        return m_xml.hasError() ? failed() : m_overrides;
     }
 
 private:
-    /** An element that is still open; `list` is null for one whose text nobody wants. */
+    /** An element whose text is wanted and that is still open. */
     struct OpenElement
     {
         QVector<LookOverride> *list;
         int index;
+        int depth;
+        bool startsWithSpace;
     };
+
+    LookOverrides failed() const
+    {
+        LookOverrides nothing;
+        nothing.error = m_xml.errorString();
+        nothing.errorLine = line();
+        return nothing;
+    }
+
+    int line() const { return static_cast<int>(m_xml.lineNumber()); }
 
     void startElement()
     {
+        ++m_depth;
         QVector<LookOverride> *list = listFor(m_xml.qualifiedName().toString());
+        if (list == nullptr)
+            return;
         const QXmlStreamAttributes attributes = m_xml.attributes();
-        if (list == nullptr || !attributes.hasAttribute(QStringLiteral("Name"))) {
-            m_open.append({nullptr, 0});
+        if (!attributes.hasAttribute(QStringLiteral("Name"))) {
+            m_overrides.namelessLines.append(line());
             return;
         }
         // Listed when it opens: document order is the order of the start tags.
-        m_open.append({list, static_cast<int>(list->size())});
-        list->append({attributes.value(QStringLiteral("Name")).toString(), QString()});
-        ++m_wanted;
+        m_open.append({list, static_cast<int>(list->size()), m_depth, false});
+        list->append({attributes.value(QStringLiteral("Name")).toString(), QString(), line(), false});
     }
 
+    // The text of an element is all the text below it, its child elements' included.
     void endElement()
     {
-        const OpenElement element = m_open.takeLast();
-        if (element.list == nullptr)
+        const bool isWanted = !m_open.isEmpty() && m_open.constLast().depth == m_depth;
+        --m_depth;
+        if (!isWanted)
             return;
-        QString &text = (*element.list)[element.index].text;
-        text = text.trimmed();
-        --m_wanted;
+        const OpenElement element = m_open.takeLast();
+        LookOverride &ended = (*element.list)[element.index];
+        if (!m_open.isEmpty()) {
+            append(element.startsWithSpace ? QLatin1Char(' ') + ended.text : ended.text);
+            LookOverride &outer = (*m_open.constLast().list)[m_open.constLast().index];
+            outer.hasMore = outer.hasMore || ended.hasMore;
+        }
+        ended.text = ended.text.trimmed();
     }
 
-    // The text of an element is all the text below it, its child elements' included. No colour and no family is longer
-    // than the limit, and without one a few nested elements would multiply a long text.
     void addText()
     {
-        if (m_wanted == 0)
-            return;
-        for (const OpenElement &element : std::as_const(m_open))
-            if (element.list != nullptr)
-                append((*element.list)[element.index].text, m_xml.text().toString());
+        if (!m_open.isEmpty())
+            append(m_xml.text().toString());
     }
 
-    static void append(QString &text, const QString &more)
+    // To the innermost element; its end hands the text on. A document of many nested elements would otherwise cost the
+    // square of its length.
+    void append(const QString &more)
     {
-        constexpr int longestText = 256;
-        if (text.size() < longestText)
-            text = (text + more.left(longestText)).left(longestText);
-        // So that white space before the text does not use the limit up.
-        if (!text.isEmpty() && text.front().isSpace())
-            text = text.trimmed();
+        OpenElement &element = m_open.last();
+        LookOverride &override = (*element.list)[element.index];
+        int start = 0;
+        if (override.text.isEmpty()) // white space before the text does not use the limit up
+            while (start < more.size() && more.at(start).isSpace())
+                ++start;
+        element.startsWithSpace = element.startsWithSpace || start > 0;
+        const int room = longestOverrideText - static_cast<int>(override.text.size());
+        override.text += more.mid(start, room);
+        override.hasMore = override.hasMore || !more.mid(start + room).trimmed().isEmpty();
     }
 
     QVector<LookOverride> *listFor(const QString &elementName)
@@ -89,7 +109,7 @@ private:
     QXmlStreamReader m_xml;
     QVector<OpenElement> m_open;
     LookOverrides m_overrides;
-    int m_wanted = 0;
+    int m_depth = 0;
 };
 
 } // namespace
@@ -98,7 +118,10 @@ LookOverrides readLookOverrides(const QString &path)
 {
     // Only a file: opening a pipe would wait for its writer.
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return LookOverrides();
-    return LookXmlReader(&file).read();
+    LookOverrides nothing;
+    if (!QFileInfo(path).isFile())
+        nothing.error = QStringLiteral("This is no file.");
+    else if (!file.open(QIODevice::ReadOnly))
+        nothing.error = file.errorString();
+    return nothing.error.isEmpty() ? LookXmlReader(&file).read() : nothing;
 }

@@ -4,11 +4,19 @@
 #include <QString>
 #include <QVector>
 
+/** The file's name, in the graphics directory and in that of a language. */
+inline const QString lookOverridesFile = QStringLiteral("UIGraphics.xml");
+
+/** The longest text that counts: no colour and no family is longer. */
+constexpr int longestOverrideText = 256;
+
 /** One Color or Font element: its Name attribute and its text, without white space around it. */
 struct LookOverride
 {
     QString name;
     QString text;
+    int line = 0;         // of the end of its start tag, from 1
+    bool hasMore = false; // the text was longer than counts
 };
 
 /** The elements of one file, each kind in document order. */
@@ -16,11 +24,20 @@ struct LookOverrides
 {
     QVector<LookOverride> colors;
     QVector<LookOverride> fonts;
+    QVector<int> namelessLines; // of the Color and Font elements that are left out
+    QString error;              // why the file gives nothing, in the words of the reader; empty for a good one
+    int errorLine = 0;          // 0 when it is no matter of a line
 };
 
 /**
  * Reads the elements named Color and Font, at whatever depth they stand. Elements without a Name are left out.
  *
- * A file that cannot be read, or is not well-formed to its end, gives nothing at all.
+ * A file that cannot be read, or is not well-formed to its end, gives nothing but its error.
  */
 LookOverrides readLookOverrides(const QString &path);
+
+/** The value of a Color's text, as 0xAARRGGBB; 0, which is black, for one that is no hexadecimal number. */
+inline quint32 colorValue(const QString &text, bool *isNumber = nullptr)
+{
+    return text.toUInt(isNumber, 16);
+}

@@ -276,12 +276,24 @@ void tst_UiGraphics::xmlReadsInDocumentOrder()
     const Deployment deployment;
     deployment.write(QStringLiteral("x.xml"), "<Color Name='outer'>1<Color Name='inner'>2</Color><Font Name='f'> A B "
                                               "</Font></Color>");
+    deployment.write(QStringLiteral("pieces.xml"),
+                     "<a><Font Name='f'>\n A<b> &#32;</b>B<Font Name='g'>\n C</Font>D</Font></a>");
+    deployment.write(QStringLiteral("bad.xml"), "<a>\n<Font Name='f'>A</Font><b>\n</a>");
     const LookOverrides overrides = readLookOverrides(deployment.graphics() + QStringLiteral("/x.xml"));
     QCOMPARE(static_cast<int>(overrides.colors.size()), 2);
     QCOMPARE(overrides.colors.at(0).name, QStringLiteral("outer"));
     QCOMPARE(overrides.colors.at(0).text, QStringLiteral("12 A B"));
     QCOMPARE(overrides.colors.at(1).text, QStringLiteral("2"));
     QCOMPARE(overrides.fonts.value(0).text, QStringLiteral("A B"));
+
+    const LookOverrides pieces = readLookOverrides(deployment.graphics() + QStringLiteral("/pieces.xml"));
+    QCOMPARE(pieces.fonts.value(0).text, QStringLiteral("A  B CD"));
+    QCOMPARE(pieces.fonts.value(1).text, QStringLiteral("C"));
+    QCOMPARE(pieces.fonts.value(1).line, 2);
+    QVERIFY(!pieces.fonts.value(0).hasMore);
+    const LookOverrides bad = readLookOverrides(deployment.graphics() + QStringLiteral("/bad.xml"));
+    QVERIFY(bad.fonts.isEmpty() && !bad.error.isEmpty());
+    QCOMPARE(bad.errorLine, 3);
 }
 
 void tst_UiGraphics::languageFileWins()

@@ -1,0 +1,559 @@
+// lookcheck as a program: what it says of directories that are good, faulty and hostile.
+#include "helpers/HouseTest.h"
+
+#include "UiGraphicsBitmaps.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int runLimit = 60 * 1000; // milliseconds; a run takes less than one, with sanitizers some
+constexpr int cannotRun = 2;
+constexpr long mostMemory = 512L * 1024; // kilobytes; sanitizers included
+
+QStringList words(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+/** One run of a program to its end. */
+struct Run
+{
+    explicit Run(const QStringList &arguments, const QString &program = QStringLiteral(LOOKCHECK))
+    {
+        QProcess process;
+        process.start(program, arguments);
+        hasEnded = process.waitForFinished(runLimit) && process.exitStatus() == QProcess::NormalExit;
+        status = hasEnded ? process.exitCode() : -1;
+        output = process.readAllStandardOutput();
+        errors = process.readAllStandardError();
+    }
+
+    QJsonObject json() const { return QJsonDocument::fromJson(output).object(); }
+
+    bool hasEnded = false;
+    int status = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+/** A copy of the artwork to spoil. */
+class Deployment
+{
+public:
+    Deployment()
+    {
+        const QDir artwork(QStringLiteral(ARTWORK));
+        for (const QString &name : artwork.entryList({QStringLiteral("*.png")}, QDir::Files))
+            copy(artwork.filePath(name), path(name));
+    }
+
+    // Not QFile::copy: it waits for the disk, which many small files make a long wait.
+    static void copy(const QString &from, const QString &to)
+    {
+        QFile source(from);
+        QFile target(to);
+        QVERIFY(source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly));
+        QVERIFY(target.write(source.readAll()) > 0);
+    }
+
+    QString path(const QString &name = QString()) const { return m_directory.filePath(name); }
+
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), static_cast<qint64>(content.size()));
+    }
+
+    void scale(const QString &name, const QSize &size) const
+    {
+        QVERIFY(QImage(path(name)).scaled(size).save(path(name)));
+    }
+
+    /** "file:line severity" of each finding, as one sorted text per finding. */
+    QStringList findings(const QStringList &options = QStringList()) const
+    {
+        const Run run(QStringList(options) << QStringLiteral("--json") << path());
+        QStringList texts;
+        const QJsonArray array = run.json().value(QStringLiteral("findings")).toArray();
+        for (const auto &value : array) {
+            const QJsonObject finding = value.toObject();
+            texts.append(QStringLiteral("%1:%2 %3")
+                             .arg(QDir(path()).relativeFilePath(finding.value(QStringLiteral("file")).toString()),
+                                  QString::number(finding.value(QStringLiteral("line")).toInt()),
+                                  finding.value(QStringLiteral("severity")).toString()));
+        }
+        texts.sort();
+        if (run.status != (texts.isEmpty() ? 0 : 1))
+            texts.append(QStringLiteral("exit status %1").arg(run.status));
+        return texts;
+    }
+
+    QString text(const QStringList &options = QStringList()) const
+    {
+        return QString::fromUtf8(Run(QStringList(options) << path()).output);
+    }
+
+private:
+    QTemporaryDir m_directory;
+};
+
+void appendNumber(QByteArray *bytes, quint32 number)
+{
+    for (int shift = 24; shift >= 0; shift -= 8)
+        *bytes += static_cast<char>(number >> shift & 0xFF);
+}
+
+void appendChunk(QByteArray *png, const QByteArray &type, const QByteArray &content)
+{
+    quint32 sum = 0xFFFFFFFF;
+    for (const char byte : type + content) {
+        sum ^= static_cast<quint8>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum >> 1 ^ (sum & 1 ? 0xEDB88320U : 0U);
+    }
+    appendNumber(png, static_cast<quint32>(content.size()));
+    *png += type + content;
+    appendNumber(png, ~sum);
+}
+
+/** A PNG file that says of itself to be of that size, and holds next to nothing. */
+QByteArray boastingPng(quint32 side)
+{
+    QByteArray header;
+    appendNumber(&header, side);
+    appendNumber(&header, side);
+    header += QByteArray("\x08\x06\x00\x00\x00", 5);
+    QByteArray png("\x89PNG\r\n\x1a\n");
+    appendChunk(&png, "IHDR", header);
+    appendChunk(&png, "IDAT", QByteArray("\x78\x9c\x03\x00\x00\x00\x00\x01", 8));
+    appendChunk(&png, "IEND", QByteArray());
+    return png;
+}
+
+QByteArray colorXml(const char *name, const char *text)
+{
+    return QByteArray("<a>\n<Color Name='") + name + "'>" + text + "</Color>\n</a>";
+}
+
+} // namespace
+
+class tst_LookCheck : public HouseTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ownArtworkIsClean_data();
+    void ownArtworkIsClean();
+    void tenFaultsAreTenFindings();
+    void xmlFaults_data();
+    void xmlFaults();
+    void bitmapFaults_data();
+    void bitmapFaults();
+    void privateFont();
+    void languageFolderHoldsWhatDiffers();
+    void partialDirectoryMayLackBitmaps();
+    void contrastOfBitmaps();
+    void textReportSaysWhereAndWhat();
+    void cannotRun_data();
+    void cannotRun();
+    void hostileFiles_data();
+    void hostileFiles();
+    void pipesAreNotWaitedFor();
+    void tableIsTheArtwork();
+    void tableKnowsWhatPaintersAskFor();
+    void sheetShowsWhatDiffers();
+    void sheetThatCannotBe();
+};
+
+void tst_LookCheck::ownArtworkIsClean_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("all") << QStringList();
+    QTest::newRow("a language with a font") << words("--language ja");
+    QTest::newRow("a language without") << words("--language de");
+}
+
+void tst_LookCheck::ownArtworkIsClean()
+{
+    QFETCH(QStringList, options);
+    const Run run(QStringList(options) << QStringLiteral("--json") << QStringLiteral(ARTWORK));
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.json().value(QStringLiteral("findings")).toArray(), QJsonArray());
+    // The look's own weak places are not hidden.
+    QVERIFY(run.output.contains("UIGCLR_IMPUI_BLUTITLE on UIGCLR_LE_BACKGROUND, 3.2 to 1"));
+}
+
+void tst_LookCheck::tenFaultsAreTenFindings()
+{
+    const Deployment deployment;
+    QVERIFY(QFile::remove(deployment.path(QStringLiteral("Close.png"))));
+    deployment.write(QStringLiteral("CheckboxActive.png"), "no bitmap");
+    deployment.scale(QStringLiteral("PushbuttonWhiteLeftCap.png"), QSize(8, 20));
+    deployment.scale(QStringLiteral("restore@2x.png"), QSize(15, 15));
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<Look>\n"
+                                                       "<Color Name='UIGCLR_PB_NORMAL_BOTOM'>8A2BE2</Color>\n"
+                                                       "<Color Name='UIGCLR_PB_NORMAL_TOP'>#8A2BE2</Color>\n"
+                                                       "<Color Name='UIGCLR_GLOW'>112233</Color>\n"
+                                                       "<Color Name='UIGCLR_IMPUI_GRAYTITLE'>CCCCCC</Color>\n"
+                                                       "<Color Name='UIGCLR_GLOW'>445566</Color>\n"
+                                                       "<Font Name='UIGFONT_ARIAL'>No Such Sans</Font>\n"
+                                                       "<Font Name='UIGFONT_KORSANS_MEDIUM'>No Such</Font>\n"
+                                                       "</Look>\n");
+    QCOMPARE(deployment.findings(),
+             QStringList() << QStringLiteral("CheckboxActive.png:0 error") << QStringLiteral("Close.png:0 error")
+                           << QStringLiteral("PushbuttonWhiteLeftCap.png:0 error")
+                           << QStringLiteral("UIGraphics.xml:2 warning") << QStringLiteral("UIGraphics.xml:3 error")
+                           << QStringLiteral("UIGraphics.xml:5 warning") << QStringLiteral("UIGraphics.xml:6 warning")
+                           << QStringLiteral("UIGraphics.xml:7 warning") << QStringLiteral("UIGraphics.xml:8 warning")
+                           << QStringLiteral("restore@2x.png:0 error"));
+}
+
+void tst_LookCheck::xmlFaults_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("finding"); // after the file's name; empty for none
+    QTest::addColumn<QString>("said");
+    const auto row = [](const char *name, const QByteArray &xml, const char *finding, const char *said) {
+        QTest::newRow(name) << xml << QString::fromLatin1(finding) << QString::fromLatin1(said);
+    };
+    row("good", colorXml("UIGCLR_GLOW", "8A2BE2"), "", "Nothing found");
+    row("good, with alpha", colorXml("UIGCLR_GLOW", "FF8A2BE2"), "", "Nothing found");
+    row("unknown key", colorXml("UIGCLR_GLOV", "8A2BE2"), ":2 warning", "nearest key is UIGCLR_GLOW.");
+    row("key in lower case", colorXml("uigclr_glow", "8A2BE2"), ":2 warning", "nearest key is UIGCLR_GLOW.");
+    row("key far from any", colorXml("Ceiling", "8A2BE2"), ":2 warning", "see the list of keys");
+    row("key of the other kind", colorXml("UIGFONT_ARIAL", "8A2BE2"), ":2 warning", "no key of a Color");
+    row("leading #", colorXml("UIGCLR_GLOW", "#8A2BE2"), ":2 error", "begins with a #");
+    row("no number", colorXml("UIGCLR_GLOW", "purple"), ":2 error", "no hexadecimal number");
+    row("too long", colorXml("UIGCLR_GLOW", "8A2BE28A2BE2"), ":2 error", "too long");
+    row("too short", colorXml("UIGCLR_GLOW", "F0F"), ":2 warning", "gives the colour #000f0f");
+    row("empty", colorXml("UIGCLR_GLOW", " "), ":2 error", "no text");
+    row("black ground, told once", colorXml("UIGCLR_PALETTE_ACTIVE_BASE", "#FFFFFF"), ":2 error", "1 error, 0 warn");
+    row("black ground", colorXml("UIGCLR_PALETTE_ACTIVE_BASE", "111111"), ":2 warning", "lists and text fields (");
+    row("grey between the ends", "<a>\n<Color Name='UIGCLR_RECTGRAD1'>000000</Color></a>", ":2 warning",
+        "tabs (UIGCLR_PALETTE_ACTIVE_FOREGROUND on UIGCLR_RECTGRAD1 to UIGCLR_RECTGRAD2, 1.0 to 1)");
+    row("weak as built in", colorXml("UIGCLR_IMPUI_BLUTITLE", "3399CC"), "", "Nothing found");
+    row("no Name", "<a>\n\n<Color name='UIGCLR_GLOW'>8A2BE2</Color></a>", ":3 warning", "without a Name");
+    row("not closed", "<a>\n<Color Name='UIGCLR_GLOW'>8A2BE2</Color>\n", ":3 error", "no effect at all");
+    row("empty family", "<a>\n<Font Name='UIGFONT_ARIAL'/></a>", ":2 warning", "system's own font");
+    row("endless family",
+        QByteArray("<a>\n<Font Name='UIGFONT_ARIAL'>DejaVu Sans,") + QByteArray(300, 'x') + "</Font></a>", ":2 warning",
+        "longer than 256");
+}
+
+void tst_LookCheck::xmlFaults()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QString, finding);
+    QFETCH(QString, said);
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), xml);
+    QCOMPARE(deployment.findings(),
+             finding.isEmpty() ? QStringList() : QStringList(QStringLiteral("UIGraphics.xml") + finding));
+    const QString text = deployment.text();
+    QVERIFY2(text.contains(said), qPrintable(text));
+}
+
+void tst_LookCheck::bitmapFaults_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("said"); // empty: no finding
+    const auto row = [](const char *name, const char *bitmap, const QSize &size, const char *said) {
+        QTest::newRow(name) << QString::fromLatin1(bitmap) << size << QString::fromLatin1(said);
+    };
+    row("lower middle", "PushbuttonGreenBlit.png", QSize(4, 26), "is 4 x 26 pixels and should be 27 high");
+    row("wider pressed cap", "PushbuttonBluePressedLeftCap.png", QSize(9, 27), "should be 8 wide");
+    row("check box of another size", "CheckboxActiveHover.png", QSize(13, 12),
+        "14 wide as the other check boxes, and 14");
+    row("lower mask", "status-rainbow-mask-left.png", QSize(8, 12), "should be 16 high as the other masks");
+    row("strip lower than its mask", "status-rainbow.png", QSize(960, 12), "at least 16 high");
+    row("narrower groove", "BlueCenterScrollBarVGrooveBlt.png", QSize(17, 4), "wide as the other");
+    row("twin too small", "Close@2x.png", QSize(19, 20), "not twice as large as its original of 10 x 10");
+    row("of its own size", "ddScrollbarSliderGrayBlit@2x.png", QSize(36, 8), "");
+}
+
+void tst_LookCheck::bitmapFaults()
+{
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    QFETCH(QString, said);
+    const Deployment deployment;
+    deployment.scale(name, size);
+    const QStringList findings = deployment.findings();
+    const QString text = deployment.text();
+    if (said.isEmpty()) {
+        QCOMPARE(findings, QStringList());
+        return;
+    }
+    QCOMPARE(static_cast<int>(findings.size()), 1);
+    QVERIFY2(text.contains(said), qPrintable(text));
+    QVERIFY2(findings.constFirst().startsWith(name), qPrintable(findings.constFirst()));
+}
+
+void tst_LookCheck::privateFont()
+{
+    const QString testFont = QStringLiteral(TEST_FONT);
+    if (!QFile::exists(testFont))
+        QSKIP("No DejaVu Sans here");
+    const auto font = QStringLiteral("Fonts/KORZEMED.otf");
+    const Deployment deployment;
+    QVERIFY(QDir(deployment.path()).mkdir(QStringLiteral("Fonts")));
+    QCOMPARE(deployment.findings(), QStringList(font + QStringLiteral(":0 warning"))); // a folder, but no font
+    deployment.write(font, "no font");
+    QCOMPARE(deployment.findings(), QStringList(font + QStringLiteral(":0 error")));
+    QCOMPARE(deployment.findings(words("--language ja")), QStringList()); // has another font
+    QVERIFY(QFile::remove(deployment.path(font)) && QFile::copy(testFont, deployment.path(font)));
+    QCOMPARE(deployment.findings(), QStringList(font + QStringLiteral(":0 error")));
+    QVERIFY(deployment.text().contains(QStringLiteral("\"DejaVu Sans\", and UIGFONT_KORSANS_MEDIUM says")));
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<a><Font Name='UIGFONT_KORSANS_MEDIUM'>DejaVu Sans</Font></a>");
+    QCOMPARE(deployment.findings(), QStringList());
+}
+
+void tst_LookCheck::languageFolderHoldsWhatDiffers()
+{
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_GLOW", "#112233"));
+    deployment.write(QStringLiteral("ja/UIGraphics.xml"), colorXml("UIGCLR_GLOW", "zz"));
+    QVERIFY(
+        QFile::copy(deployment.path(QStringLiteral("restore.png")), deployment.path(QStringLiteral("ja/Restore.png"))));
+    QVERIFY(QFile::copy(deployment.path(QStringLiteral("Close.png")), deployment.path(QStringLiteral("ja/Close.png"))));
+    deployment.scale(QStringLiteral("ja/Close.png"), QSize(12, 12));
+    const QStringList common{QStringLiteral("UIGraphics.xml:2 error")};
+    const QStringList both{QStringLiteral("UIGraphics.xml:2 error"), QStringLiteral("ja/Close.png:0 error"),
+                           QStringLiteral("ja/Restore.png:0 warning"), QStringLiteral("ja/UIGraphics.xml:2 error")};
+    QCOMPARE(deployment.findings(words("--language de")), common);
+    QCOMPARE(deployment.findings(words("--language ja")), both);
+    QCOMPARE(deployment.findings(), both);
+}
+
+void tst_LookCheck::partialDirectoryMayLackBitmaps()
+{
+    const QTemporaryDir empty;
+    const Run whole({empty.path()});
+    QCOMPARE(whole.status, 1);
+    QCOMPARE(static_cast<int>(whole.output.count("The bitmap is missing")), static_cast<int>(std::size(lookBitmaps)));
+    QCOMPARE(Run({QStringLiteral("--partial"), empty.path()}).status, 0);
+}
+
+void tst_LookCheck::contrastOfBitmaps()
+{
+    const Deployment deployment;
+    QImage middle(deployment.path(QStringLiteral("PushbuttonGreenBlit.png")));
+    middle.fill(QColor(0xA0, 0xE0, 0xB0));
+    QVERIFY(middle.save(deployment.path(QStringLiteral("PushbuttonGreenBlit.png"))));
+    QCOMPARE(deployment.findings(), QStringList(QStringLiteral("PushbuttonGreenBlit.png:0 warning")));
+    QVERIFY(deployment.text().contains(QStringLiteral("green push buttons (UIGCLR_WHITE on the bitmap, 1.5 to 1)")));
+}
+
+void tst_LookCheck::textReportSaysWhereAndWhat()
+{
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_GL\u009bOW\u202e", "8A2BE2"));
+    QVERIFY(
+        QFile::rename(deployment.path(QStringLiteral("restore.png")), deployment.path(QStringLiteral("Restore.png"))));
+    const QString text = deployment.text();
+    QVERIFY(text.contains(deployment.path(QStringLiteral("UIGraphics.xml:2: warning: \"UIGCLR_GL?OW?\" is no key"))));
+    QVERIFY(text.contains(QStringLiteral("Is it \"Restore.png\"?")));
+    QVERIFY(text.contains(QStringLiteral("1 error, 1 warning; ")));
+    QVERIFY(!text.contains(QStringLiteral(": note: ")));
+    QVERIFY(deployment.text({QStringLiteral("--notes")}).contains(QStringLiteral(": note: ")));
+}
+
+void tst_LookCheck::cannotRun_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("nothing") << QStringList();
+    QTest::newRow("no directory") << QStringList(QStringLiteral("/no/such/look"));
+    QTest::newRow("a file") << QStringList(QStringLiteral(LOOKCHECK));
+    QTest::newRow("two directories") << words("/ /");
+    QTest::newRow("unknown option") << words("--beautify /");
+    QTest::newRow("language outside") << words("--language ../x /");
+}
+
+void tst_LookCheck::cannotRun()
+{
+    QFETCH(QStringList, arguments);
+    const Run run(arguments);
+    QCOMPARE(run.status, ::cannotRun);
+    QVERIFY(run.errors.contains("lookcheck: "));
+    QVERIFY(run.output.isEmpty());
+}
+
+void tst_LookCheck::hostileFiles_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<qint64>("size"); // blown up to it
+    QTest::addColumn<QString>("said");
+    const auto xml = QStringLiteral("UIGraphics.xml");
+    const auto bitmap = QStringLiteral("Close.png");
+
+    QByteArray laughs = "<!DOCTYPE a [<!ENTITY l0 'ha'>";
+    for (int i = 1; i < 30; ++i)
+        laughs += QStringLiteral("<!ENTITY l%1 '&l%2;&l%2;'>").arg(i).arg(i - 1).toLatin1();
+    QTest::newRow("nested entities") << xml << laughs + "]><a><Color Name='UIGCLR_GLOW'>&l29;</Color></a>" << qint64(0)
+                                     << QStringLiteral("no effect at all");
+    QTest::newRow("100 megabytes") << xml << QByteArray("<a>") << qint64(100) * 1024 * 1024
+                                   << QStringLiteral("larger than a megabyte");
+    const int depth = 30000;
+    QByteArray deep;
+    for (int i = 0; i < depth; ++i)
+        deep += "<Color Name=\"\">x";
+    QTest::newRow("deep") << xml << deep << qint64(0) << QStringLiteral("no effect at all");
+    QTest::newRow("thousands of names") << xml
+                                        << QByteArray("<a>") +
+                                               QByteArray("<Color Name='UIGCLR_X'/>\n").repeated(20000) + "</a>"
+                                        << qint64(0) << QStringLiteral("19900 more like these");
+    QTest::newRow("bitmap bomb") << bitmap << boastingPng(60000) << qint64(0)
+                                 << QStringLiteral("60000 x 60000 pixels; no control is that large");
+    QTest::newRow("bitmap without content") << bitmap << boastingPng(64) << qint64(0) << QStringLiteral("is damaged");
+    QTest::newRow("giant bitmap") << bitmap << QByteArray("\x89PNG") << qint64(100) * 1024 * 1024
+                                  << QStringLiteral("larger than 16 megabytes");
+    QTest::newRow("empty bitmap") << bitmap << QByteArray() << qint64(0) << QStringLiteral("is damaged");
+}
+
+void tst_LookCheck::hostileFiles()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
+    QFETCH(qint64, size);
+    QFETCH(QString, said);
+    const Deployment deployment;
+    deployment.write(name, content);
+    if (size > 0)
+        QVERIFY(QFile::resize(deployment.path(name), size));
+    const Run run({deployment.path()});
+    QVERIFY(run.hasEnded);
+    QCOMPARE(run.status, 1);
+    QVERIFY2(run.output.contains(said.toUtf8()), run.output.constData());
+    rusage usage{};
+    QCOMPARE(getrusage(RUSAGE_CHILDREN, &usage), 0);
+    QVERIFY2(usage.ru_maxrss < mostMemory, qPrintable(QString::number(usage.ru_maxrss)));
+}
+
+void tst_LookCheck::pipesAreNotWaitedFor()
+{
+    const Deployment deployment;
+    const QStringList names{QStringLiteral("Close.png"), QStringLiteral("Fonts/KORZEMED.otf"),
+                            QStringLiteral("UIGraphics.xml")};
+    QVERIFY(QDir(deployment.path()).mkdir(QStringLiteral("Fonts")));
+    QStringList expected;
+    for (const QString &name : names) {
+        QFile::remove(deployment.path(name));
+        QCOMPARE(mkfifo(QFile::encodeName(deployment.path(name)).constData(), 0600), 0);
+        expected.append(name + QStringLiteral(":0 error"));
+    }
+    QCOMPARE(deployment.findings(), expected);
+}
+
+void tst_LookCheck::tableIsTheArtwork()
+{
+    QStringList table;
+    for (const LookBitmap &bitmap : lookBitmaps)
+        table.append(QString::fromUtf16(bitmap.name));
+    table.sort();
+    QStringList artwork;
+    for (const QString &name : QDir(QStringLiteral(ARTWORK)).entryList({QStringLiteral("*.png")}))
+        if (!name.contains(QLatin1Char('@')))
+            artwork.append(name);
+    artwork.sort();
+    QCOMPARE(table, artwork);
+}
+
+// The painters put names together from pieces. What they ask the registry for, it writes down.
+void tst_LookCheck::tableKnowsWhatPaintersAskFor()
+{
+#ifndef GALLERY
+    QSKIP("Built without the gallery");
+#else
+    const QTemporaryDir directory;
+    const QString log = directory.filePath(QStringLiteral("log"));
+    QProcess gallery;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral(ARTWORK));
+    environment.insert(QStringLiteral("ZEL_LOG"), QStringLiteral("trace"));
+    environment.insert(QStringLiteral("ZEL_LOG_FILE"), log);
+    gallery.setProcessEnvironment(environment);
+    gallery.setStandardOutputFile(QProcess::nullDevice());
+    gallery.setStandardErrorFile(QProcess::nullDevice());
+    gallery.start(QStringLiteral(GALLERY),
+                  {QStringLiteral("--pictures"), directory.filePath(QStringLiteral("pictures"))});
+    QVERIFY(gallery.waitForFinished(runLimit));
+    QFile file(log);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString records = QString::fromUtf8(file.readAll());
+    QSet<QString> known;
+    for (const LookBitmap &bitmap : lookBitmaps)
+        known.insert(QString::fromUtf16(bitmap.name));
+    QSet<QString> asked;
+    static const QRegularExpression record(QStringLiteral("RetrieveFilePath\\(([^)]*\\.png)\\)"));
+    for (auto matches = record.globalMatch(records); matches.hasNext();)
+        asked.insert(matches.next().captured(1));
+    QVERIFY(asked.size() > 50);
+    QCOMPARE(asked - known, QSet<QString>());
+#endif
+}
+
+void tst_LookCheck::sheetShowsWhatDiffers()
+{
+#ifndef GALLERY
+    QSKIP("Built without the gallery");
+#else
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_CE_HEADER", "00AA00"));
+    QImage box(deployment.path(QStringLiteral("CheckboxActive.png")));
+    box.fill(Qt::red);
+    QVERIFY(box.save(deployment.path(QStringLiteral("CheckboxActive.png"))));
+    const QTemporaryDir directory;
+    const QString page = directory.filePath(QStringLiteral("sheet.html"));
+    const Run run({QStringLiteral("--sheet"), page, deployment.path()});
+    QVERIFY2(run.status == 0, run.errors.constData());
+    QFile file(page);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString html = QString::fromUtf8(file.readAll());
+
+    const QString changed = html.section(QStringLiteral("<details>"), 0, 0);
+    const QString unchanged = html.section(QStringLiteral("<details>"), 1);
+    QVERIFY(changed.contains(QStringLiteral("alt=\"Checkboxes")) || changed.contains(QStringLiteral("alt=\"Check")));
+    QVERIFY(!changed.contains(QStringLiteral("alt=\"Sliders")));
+    QVERIFY(unchanged.contains(QStringLiteral("alt=\"Sliders")));
+    QCOMPARE(changed.count(QStringLiteral(", before\"")), changed.count(QStringLiteral(", after\"")));
+    // Nothing beside the page itself.
+    QCOMPARE(html.count(QStringLiteral("src=")), html.count(QStringLiteral("src=\"data:image/png;base64,iVBOR")));
+    QVERIFY(!html.contains(QStringLiteral("href=\"http")));
+#endif
+}
+
+void tst_LookCheck::sheetThatCannotBe()
+{
+    const Deployment deployment;
+    const QString page = deployment.path(QStringLiteral("sheet.html"));
+    const QStringList sheet{QStringLiteral("--sheet"), page};
+    QCOMPARE(
+        Run(sheet + QStringList{QStringLiteral("--gallery"), QStringLiteral("/no/gallery"), deployment.path()}).status,
+        ::cannotRun);
+    QCOMPARE(
+        Run(sheet + QStringList{QStringLiteral("--gallery"), QStringLiteral("/bin/false"), deployment.path()}).status,
+        ::cannotRun);
+    deployment.write(QStringLiteral("Close@2x.png"), boastingPng(60000));
+    const Run bomb(sheet + QStringList(deployment.path()));
+    QCOMPARE(bomb.status, ::cannotRun);
+    QVERIFY(bomb.errors.contains("Close@2x.png' is too large"));
+    QVERIFY(!QFile::exists(page));
+}
+
+HOUSE_TEST_MAIN(tst_LookCheck)
+#include "tst_LookCheck.moc"
