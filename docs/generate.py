@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes what the documentation takes from the sources: the colours with their readers, and the public headers.
+"""Writes what the documentation takes from the sources: the colours with their readers, the list of the controls' pages,
+and the public headers.
 
     docs/generate.py DIRECTORY
 
@@ -128,6 +129,14 @@ def colour_page():
         f"## Held for applications ({len(held)})\n", table(["", "Default", "Key"], held)])
 
 
+def control_page():
+    rows = []
+    for path in sorted(pathlib.Path("docs/controls").glob("*.md"), key=lambda path: path.name.lower()):
+        heading, paragraph, *_ = path.read_text(encoding="utf-8").split("\n\n")
+        rows.append([f'\\subpage md_docs_controls_{path.stem} "{heading.lstrip("# ")}"', paragraph.replace("\n", " ")])
+    return "# Controls\n\n" + table(["Control", "What it is"], rows)
+
+
 def public_headers():
     lists = (SOURCES / "CMakeLists.txt").read_text(encoding="utf-8")
     named = re.findall(r"zel_public_class\(\w+ (\S+\.h)\)", lists)
@@ -146,6 +155,7 @@ def main():
     directory = pathlib.Path(sys.argv[1])
     directory.mkdir(parents=True, exist_ok=True)
     (directory / "colours.md").write_text(colour_page(), encoding="utf-8")
+    (directory / "controls.md").write_text(control_page(), encoding="utf-8")
     (directory / "found.doxyfile").write_text(doxyfile(), encoding="utf-8")
 
 
