@@ -104,6 +104,9 @@ inline constexpr LookBitmap lookBitmaps[] = {
     {u"Maximize.png", u"icons of title bars", u"icons of title bars", {14, 14}},
     {u"restore.png", u"icons of title bars", u"icons of title bars", {14, 14}},
 
+    // Beside the help link of message boxes.
+    {u"Help.png", nullptr, nullptr},
+
     // The busy indicators. The masks cut the shadow of the strip as they cut the strip.
     {u"status-rainbow.png", nullptr, nullptr},
     {u"status-rainbow-shadow.png", nullptr, u"masks and shadow of the rainbow strip"},
