@@ -122,7 +122,8 @@ void CUIGraphics::readXmlFiles()
         return;
     // The language's file comes second, so that its values win.
     const QString common = m_sGraphicsDir + QLatin1Char('/');
-    m_use.xmlSought = QStringList{common + lookOverridesFile, common + m_sLanguage + QLatin1Char('/') + lookOverridesFile};
+    m_use.xmlSought =
+        QStringList{common + lookOverridesFile, common + m_sLanguage + QLatin1Char('/') + lookOverridesFile};
     for (const QString &path : std::as_const(m_use.xmlSought))
         if (QFile::exists(path))
             ReadUIGraphicsXml(path);
@@ -135,7 +136,7 @@ void CUIGraphics::ReadUIGraphicsXml(const QString &path)
     const LookOverrides overrides = readLookOverrides(path);
     m_use.xmlRead.append(ReadXml{path, 0, 0, {}});
     m_use.xmlRead.last().colors = apply(
-        overrides.colors, m_colorMap, colorValue);
+        overrides.colors, m_colorMap, [](const QString &text) { return colorValue(text); });
     m_use.xmlRead.last().families = apply(overrides.fonts, m_fontMap, [](const QString &text) { return text; });
 }
 

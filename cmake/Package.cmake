@@ -42,6 +42,11 @@ package(development libzelcmnctrl03-${qt}-dev libdevel
 package(style ${qt}-style-plugin-zelcc4 libs "style of the house for any Qt ${ZEL_QT_MAJOR} application"
     "the plugin, for applications started with -style cc4"
     "${runtime} ${exactly}")
+if(TARGET zelcmnctrl03designer)
+    package(designer ${qt}-designer-plugin-zelcmnctrl03 libdevel "controls of the house in Qt Designer ${ZEL_QT_MAJOR}"
+        "the plugin, which adds them to the widget box"
+        "${runtime} ${exactly}")
+endif()
 if(ZEL_PACKAGE_SHARED)
     package(utility libzelcutil03 libs "log, language and installation settings of the house"
         "the utility library, which has no Qt in it")
