@@ -38,7 +38,7 @@ enum CC4_MESSAGEBOXEX_BUTTONS
 };
 
 /**
- * The message box of the house: a frameless modal dialog with a title bar of its own, a content area and up to three
+ * The message box of the house: a frameless dialog with a title bar of its own, a content area and up to three
  * buttons at its right end.
  *
  * Build it, call the setters that you need, then showDialog(), which runs the box and gives the button that ended it;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr qreal cornerRoundness = 5; // percent of half a side
 
-/** One of the outlines that the shadow is made of, by what it adds to the panel's rectangle. */
+/** One of the outlines that the shadow is made of, by what it adds to the sides of contentsRect(). */
 struct Outline
 {
     int alpha;
