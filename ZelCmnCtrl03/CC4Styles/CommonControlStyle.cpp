@@ -69,7 +69,10 @@ void fillGroup(QPalette &palette, QPalette::ColorGroup group, const char *keyPre
 
 } // namespace
 
-CCommonControlStyle::CCommonControlStyle() : QProxyStyle(baseStyleKey()), m_pNativeStyle(Platform::createNativeStyle())
+CCommonControlStyle::CCommonControlStyle()
+    : QProxyStyle(baseStyleKey()),
+      m_pNativeStyle(Platform::createNativeStyle()),
+      m_bFusionIsBase(baseStyle()->inherits("QFusionStyle"))
 {
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
     QApplication::setEffectEnabled(Qt::UI_FadeMenu, false);

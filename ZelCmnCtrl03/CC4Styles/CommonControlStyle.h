@@ -201,6 +201,7 @@ private:
     QRect sliderSubControlRect(const QStyleOptionComplex *option, SubControl subControl, const QWidget *widget) const;
 
     std::unique_ptr<QStyle> m_pNativeStyle; // draws the face of a push button that is no CButtonEx
+    const bool m_bFusionIsBase;             // painters make good what Fusion draws otherwise
     bool m_bPaletteGiven = false;           // to the application, by polish()
     bool m_bShapingToolTip = false;         // its own resizing must not shape it again
 };

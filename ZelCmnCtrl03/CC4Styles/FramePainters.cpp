@@ -27,7 +27,7 @@ void CCommonControlStyle::drawFrameMenu(const QStyleOption *option, QPainter *pa
         return;
     }
     // Fusion fills the frame in black. A thin line is what the other base draws.
-    if (baseStyle()->inherits("QFusionStyle"))
+    if (m_bFusionIsBase)
         PaintTools::drawOutline(painter, option->rect, option->palette.color(QPalette::Shadow));
     else
         QProxyStyle::drawPrimitive(PE_FrameMenu, option, painter, widget);

@@ -346,7 +346,7 @@ void CCommonControlStyle::drawPanelButtonCommand(const QStyleOption *option, QPa
 void CCommonControlStyle::drawPanelButtonTool(const QStyleOption *option, QPainter *painter,
                                               const QWidget *widget) const
 {
-    if (m_pNativeStyle != nullptr && baseStyle()->inherits("QFusionStyle"))
+    if (m_pNativeStyle != nullptr && m_bFusionIsBase)
         m_pNativeStyle->drawPrimitive(PE_PanelButtonTool, option, painter, widget);
     else
         QProxyStyle::drawPrimitive(PE_PanelButtonTool, option, painter, widget);

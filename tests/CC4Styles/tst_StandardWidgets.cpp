@@ -87,16 +87,6 @@ QPixmap pixmapOf(const QSize &size, const QColor &color)
     return pixmap;
 }
 
-template <typename Option>
-Option optionFor(const QRect &rect, QStyle::State state = QStyle::State_Enabled)
-{
-    Option option;
-    option.rect = rect;
-    option.state = state;
-    option.palette = QApplication::style()->standardPalette();
-    return option;
-}
-
 QString note(const char *what, int element, const QRect &rect)
 {
     return QStringLiteral("%1 %2 at %3,%4 %5x%6")

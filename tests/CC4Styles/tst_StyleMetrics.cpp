@@ -24,16 +24,6 @@ QColor grey(int value)
     return QColor(value, value, value);
 }
 
-template <typename Option>
-Option optionFor(const QRect &rect, QStyle::State state = QStyle::State_Enabled)
-{
-    Option option;
-    option.rect = rect;
-    option.state = state;
-    option.palette = QApplication::style()->standardPalette();
-    return option;
-}
-
 /** The layout of every style that has none of its own, with the metrics of another one. */
 class PlainLayout : public QCommonStyle
 {

@@ -16,25 +16,6 @@
 
 namespace {
 
-/** Counts what a widget is asked to paint. */
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
-    int count = 0;
-    QRegion last;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() != QEvent::Paint)
-            return false;
-        ++count;
-        last = static_cast<QPaintEvent *>(event)->region();
-        return false;
-    }
-};
-
 // The bar looks at no timer's identity: any timer event is a step. Nothing else runs meanwhile.
 void step(CProgressBarEx &bar, int steps)
 {
@@ -158,16 +139,16 @@ void tst_ProgressBarEx::tickPaintsTheBarAlone()
     CProgressBarEx bar(&window);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const PaintWatch ofWindow(&window);
-    const PaintWatch ofBar(&bar);
-    QTRY_VERIFY(ofBar.count >= 20);
-    QCOMPARE(ofWindow.count, 0);
-    QCOMPARE(ofBar.last, QRegion(bar.rect()));
+    const PaintCounter ofWindow(&window);
+    const PaintCounter ofBar(&bar);
+    QTRY_VERIFY(ofBar.paints >= 20);
+    QCOMPARE(ofWindow.paints, 0);
+    QCOMPARE(ofBar.region, QRegion(bar.rect()));
     bar.hide();
     QCoreApplication::processEvents();
-    const int before = ofBar.count;
+    const int before = ofBar.paints;
     step(bar, 3);
-    QCOMPARE(ofBar.count, before);
+    QCOMPARE(ofBar.paints, before);
     // In an opaque bar, what the bitmap does not reach would show what happened to be there.
     bar.resize(200, 40);
     bar.grab();
@@ -275,14 +256,14 @@ void tst_ProgressBarEx::panelTickPaintsTheStripAlone()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const QImage before = panelPicture(panel);
-    PaintWatch watch(&panel);
-    QTRY_VERIFY(watch.count >= 20);
-    QCOMPARE(watch.last, QRegion(8, 75, 367, 16));
+    PaintCounter watch(&panel);
+    QTRY_VERIFY(watch.paints >= 20);
+    QCOMPARE(watch.region, QRegion(8, 75, 367, 16));
     const QImage after = panelPicture(panel);
     QVERIFY(after.copy(8, 75, 367, 16) != before.copy(8, 75, 367, 16));
     QCOMPARE(after.copy(0, 0, 388, 75), before.copy(0, 0, 388, 75));
     panel.setLabel(QStringLiteral("Printed"));
-    QCOMPARE(watch.last, QRegion(panel.rect()));
+    QCOMPARE(watch.region, QRegion(panel.rect()));
 }
 
 void tst_ProgressBarEx::panelHangsOnTheTopmostWindow()
@@ -375,8 +356,8 @@ void tst_ProgressBarEx::shownAgainItScrolls()
     const QSignalSpy closed(&panel, &CProgressBarDialogEx::closed);
     QTRY_COMPARE(static_cast<int>(closed.count()), 1);
     panel.showDialog(false);
-    const PaintWatch watch(&panel);
-    QTRY_VERIFY(watch.count >= 10);
+    const PaintCounter watch(&panel);
+    QTRY_VERIFY(watch.paints >= 10);
 }
 
 void tst_ProgressBarEx::screenReaders()

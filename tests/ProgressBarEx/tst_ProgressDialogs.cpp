@@ -329,25 +329,18 @@ void tst_ProgressDialogs::rainbowRowThatDoesNotExist()
 // Its painting fits height and mask: nothing for every tick of the bar.
 void tst_ProgressDialogs::rainbowIsPaintedOnlyWhenAsked()
 {
-    struct PaintWatch : QObject
-    {
-        int count = 0;
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-    } ofDialog, ofBar;
+    PaintCounter ofDialog;
+    PaintCounter ofBar;
     CRainbowProgressDialog dialog;
     dialog.setText(QStringLiteral("Heading"), 0);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     dialog.findChild<CProgressBarEx *>()->installEventFilter(&ofBar);
-    QTRY_VERIFY(ofBar.count > 5); // the first painting is done
+    QTRY_VERIFY(ofBar.paints > 5); // the first painting is done
     dialog.installEventFilter(&ofDialog);
-    ofBar.count = 0;
-    QTRY_VERIFY(ofBar.count > 20);
-    QCOMPARE(ofDialog.count, 0);
+    ofBar.paints = 0;
+    QTRY_VERIFY(ofBar.paints > 20);
+    QCOMPARE(ofDialog.paints, 0);
 }
 
 void tst_ProgressDialogs::rainbowTellsScreenReaders()

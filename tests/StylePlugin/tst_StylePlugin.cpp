@@ -15,7 +15,6 @@ class tst_StylePlugin : public HouseTest
 private Q_SLOTS:
     void everyRoadGivesTheSameLook_data();
     void everyRoadGivesTheSameLook();
-    void otherKeysGiveAnotherStyle();
     void worksInstalled();
 };
 
@@ -77,12 +76,6 @@ void tst_StylePlugin::everyRoadGivesTheSameLook()
     const ProbeRun run = runProbe(QStringLiteral(BUILD_DIR), arguments, overriding);
     QCOMPARE(run.errors, QString());
     QCOMPARE(run.output, expectedReport(static_cast<CC4StyleFactory::Styles>(kind)));
-}
-
-void tst_StylePlugin::otherKeysGiveAnotherStyle()
-{
-    const ProbeRun run = runProbe(QStringLiteral(BUILD_DIR), {QStringLiteral("Fusion")});
-    QVERIFY2(run.output.startsWith(QLatin1String("QFusionStyle")), qPrintable(run.output));
 }
 
 void tst_StylePlugin::worksInstalled()

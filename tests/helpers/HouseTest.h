@@ -1,12 +1,15 @@
 // What every test of the house shares: no unannounced warning, pictures of what a style paints, and a main function.
 #pragma once
 
+#include <QApplication>
 #include <QColor>
 #include <QEvent>
 #include <QImage>
 #include <QMap>
 #include <QObject>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QRegion>
 #include <QStringList>
 #include <QStyle>
 #include <QStyleOption>
@@ -27,18 +30,36 @@ protected Q_SLOTS:
     void cleanup();
 };
 
-/** Counts the paint events of the widgets that it filters. */
+/** Counts the paint events of the widgets that it filters, and knows the region of the last one. */
 class PaintCounter : public QObject
 {
 public:
+    PaintCounter() = default;
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+
     bool eventFilter(QObject *, QEvent *event) override
     {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() != QEvent::Paint)
+            return false;
+        ++paints;
+        region = static_cast<QPaintEvent *>(event)->region();
         return false;
     }
 
     int paints = 0;
+    QRegion region;
 };
+
+/** An option as a widget of the current style would fill it in. */
+template <typename Option>
+Option optionFor(const QRect &rect, QStyle::State state = QStyle::State_Enabled)
+{
+    Option option;
+    option.rect = rect;
+    option.state = state;
+    option.palette = QApplication::style()->standardPalette();
+    return option;
+}
 
 namespace Picture {
 
