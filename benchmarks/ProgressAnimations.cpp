@@ -32,7 +32,7 @@ namespace {
 constexpr int stepInterval = 10; // milliseconds, as the house's animations have it
 constexpr int warmUp = 300;      // milliseconds: showing, first painting, loading of artwork
 constexpr double sliceSeconds = 1.0;
-constexpr double stripLimit = 1.2; // times the plain scroll
+constexpr double stripLimit = 1.3; // times the plain scroll
 constexpr QSize barSize(450, 20);
 constexpr QSize panelSize(388, 102);
 

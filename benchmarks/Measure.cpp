@@ -1,0 +1,89 @@
+#include "Measure.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <ctime>
+
+namespace {
+
+double nanosecondsOf(const std::function<void()> &run, int count)
+{
+    const double before = threadNanoseconds();
+    for (int i = 0; i < count; ++i)
+        run();
+    return threadNanoseconds() - before;
+}
+
+// Doubles the count until a slice is long enough to be measured; that warms everything up, too.
+int runsPerSlice(const std::function<void()> &run, double sliceSeconds)
+{
+    const double wanted = sliceSeconds * 1e9;
+    int count = 1;
+    double taken = nanosecondsOf(run, count);
+    while (taken < wanted / 4) {
+        count *= 2;
+        taken = nanosecondsOf(run, count);
+    }
+    return std::max(1, static_cast<int>(count * wanted / taken));
+}
+
+} // namespace
+
+double threadNanoseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
+
+void takeTurns(Comparison &comparison, int rounds, double sliceSeconds)
+{
+    std::vector<int> counts;
+    for (const Contender &contender : comparison.contenders)
+        counts.push_back(runsPerSlice(contender.run, sliceSeconds));
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < counts.size(); ++i) {
+            Contender &contender = comparison.contenders[i];
+            contender.samples.push_back(nanosecondsOf(contender.run, counts[i]) / counts[i] / comparison.thingsPerRun);
+        }
+    }
+}
+
+double median(std::vector<double> values)
+{
+    if (values.empty())
+        return std::nan("");
+    std::sort(values.begin(), values.end());
+    const std::size_t middle = values.size() / 2;
+    return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+double medianRatio(const std::vector<double> &values, const std::vector<double> &others)
+{
+    std::vector<double> ratios;
+    for (std::size_t round = 0; round < std::min(values.size(), others.size()); ++round)
+        ratios.push_back(values[round] / others[round]);
+    return median(ratios);
+}
+
+double ratioTo(const Comparison &comparison, std::size_t contender)
+{
+    return medianRatio(comparison.contenders.front().samples, comparison.contenders[contender].samples);
+}
+
+double differenceTo(const Comparison &comparison, std::size_t contender)
+{
+    return median(comparison.contenders.front().samples) - median(comparison.contenders[contender].samples);
+}
+
+bool isKept(const Comparison &comparison)
+{
+    const Promise &promise = comparison.promise;
+    if (promise.kind == Promise::Ratio && ratioTo(comparison, 1) > promise.limit)
+        return false;
+    if (promise.kind == Promise::Difference && differenceTo(comparison, 1) > promise.limit)
+        return false;
+    return std::all_of(promise.ahead.begin(), promise.ahead.end(),
+                       [&comparison](std::size_t other) { return ratioTo(comparison, other) <= 1.0; });
+}

@@ -1,0 +1,92 @@
+// The look registry beside the least that its lookups can take, and a log scope that is switched off.
+#include "Groups.h"
+
+#include <UiGraphics.h>
+#include <UiGraphicsColors.h>
+#include <include/qt_globals.h>
+
+#include <QMap>
+
+namespace {
+
+constexpr int manyTimes = 1000;
+
+const QString group = QStringLiteral("registry");
+
+// So that no call is left out for having no effect.
+template <typename Value>
+void keep(const Value &value)
+{
+    asm volatile("" : : "g"(&value) : "memory");
+}
+
+// As it is asked for: with a key of the middle of the table.
+Comparison colors()
+{
+    QMap<QString, quint32> map;
+    for (const ColorDefault &color : colorDefaults)
+        map.insert(QString::fromUtf16(color.key), color.argb);
+    const QString key = std::next(map.begin(), map.size() / 2).key();
+    const auto ours = [key] {
+        for (int i = 0; i < manyTimes; ++i)
+            keep(UIGGetColor(key));
+    };
+    const auto bare = [key, map] {
+        for (int i = 0; i < manyTimes; ++i)
+            keep(QColor::fromRgb(map.value(key, 0)));
+    };
+    return {group,
+            QStringLiteral("UIGGetColor"),
+            nanoseconds,
+            {{QStringLiteral("ours"), ours, {}}, {QStringLiteral("QMap"), bare, {}}},
+            {Promise::Ratio, 1.1, {}},
+            manyTimes};
+}
+
+Comparison pixmaps()
+{
+    const QString name = QStringLiteral("PushbuttonWhiteBlit.png");
+    const QString path = CUIGraphics::UIGGetImagePath(name);
+    return {group,
+            QStringLiteral("UIGGetPixmap"),
+            nanoseconds,
+            {{QStringLiteral("ours"), [name] { keep(UIGGetPixmap(name)); }, {}},
+             {QStringLiteral("QPixmap(path)"), [path] { keep(QPixmap(path)); }, {}}},
+            {}};
+}
+
+Q_NEVER_INLINE void operationWithScope(int &value)
+{
+    ZEL_LOG_SCOPE;
+    keep(++value);
+}
+
+Q_NEVER_INLINE void operationWithout(int &value)
+{
+    keep(++value);
+}
+
+Comparison logScope()
+{
+    const auto manyOf = [](void (*operation)(int &)) {
+        return [operation] {
+            int value = 0;
+            for (int i = 0; i < manyTimes; ++i)
+                operation(value);
+        };
+    };
+    return {group,
+            QStringLiteral("log scope, switched off"),
+            nanoseconds,
+            {{QStringLiteral("with"), manyOf(operationWithScope), {}},
+             {QStringLiteral("without"), manyOf(operationWithout), {}}},
+            {Promise::Difference, 2.0, {}},
+            manyTimes};
+}
+
+} // namespace
+
+std::vector<Comparison> registry()
+{
+    return {colors(), pixmaps(), logScope()};
+}
