@@ -1,6 +1,7 @@
 // The look registry: the one source of the colours, fonts and bitmaps of the house look, asked by name.
 #pragma once
 
+#include "Platform/Platform.h"
 #include "UiGraphicsUse.h"
 
 #include <QColor>
@@ -75,9 +76,17 @@ private:
         bool m_bSmallReplacesStandard = false; // for sizes below 14 pixels
     };
 
+    /** A file of the graphics directory; an empty path if there is none. */
+    struct FoundFile
+    {
+        QString path;
+        Platform::FileStamp stamp;
+    };
+
     static bool loadUtilityLibrary();
     static void GetCULValues(const QString &key);
-    static QString pathOfBitmap(const QString &fileName);
+    static FoundFile findFile(const QString &fileName);
+    static FoundFile findBitmap(const QString &fileName);
     template <typename Picture>
     static Picture checked(const Picture &picture, const QString &path);
     static void initializeColorMap();

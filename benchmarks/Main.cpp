@@ -34,8 +34,8 @@ void keepWanted(std::vector<Comparison> &comparisons, const QString &wanted)
     comparisons.erase(std::remove_if(comparisons.begin(), comparisons.end(), isUnwanted), comparisons.end());
 }
 
-/** For a profiler: one contender alone, so many times. */
-int runAlone(std::vector<Comparison> &comparisons, const QString &name, int count)
+/** For a profiler, which finds it by its name: one contender alone, so many times. */
+Q_NEVER_INLINE int runAlone(std::vector<Comparison> &comparisons, const QString &name, int count)
 {
     for (Comparison &comparison : comparisons) {
         for (Contender &contender : comparison.contenders) {

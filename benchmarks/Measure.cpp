@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <random>
 
 #include <ctime>
 
@@ -42,8 +44,13 @@ void takeTurns(Comparison &comparison, int rounds, double sliceSeconds)
     std::vector<int> counts;
     for (const Contender &contender : comparison.contenders)
         counts.push_back(runsPerSlice(contender.run, sliceSeconds));
+    // In another order each round: whatever takes turns with us on this machine must not meet the same one each time.
+    std::mt19937 generator;
+    std::vector<std::size_t> order(counts.size());
+    std::iota(order.begin(), order.end(), std::size_t(0));
     for (int round = 0; round < rounds; ++round) {
-        for (std::size_t i = 0; i < counts.size(); ++i) {
+        std::shuffle(order.begin(), order.end(), generator);
+        for (const std::size_t i : order) {
             Contender &contender = comparison.contenders[i];
             contender.samples.push_back(nanosecondsOf(contender.run, counts[i]) / counts[i] / comparison.thingsPerRun);
         }

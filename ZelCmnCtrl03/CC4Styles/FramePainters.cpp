@@ -15,7 +15,7 @@ void CCommonControlStyle::drawFrame(const QStyleOption *option, QPainter *painte
     painter->fillRect(option->rect, option->palette.window());
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(QBrush(line), 0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    painter->drawRect(option->rect);
+    PaintTools::strokeRect(painter, option->rect);
 }
 
 void CCommonControlStyle::drawToolbarFrame(const QStyleOption *, QPainter *, const QWidget *) const {}

@@ -1,6 +1,7 @@
 // Header sections.
 #include "CC4Styles/CommonControlStyle.h"
 
+#include "CC4Styles/PaintTools.h"
 #include "UiGraphics.h"
 
 #include <QPainter>
@@ -26,5 +27,5 @@ void CCommonControlStyle::drawHeaderSection(const QStyleOption *option, QPainter
     painter->fillRect(option->rect,
                       on ? UIGGetColor(QStringLiteral("UIGCLR_CE_HEADER")) : option->palette.color(QPalette::Button));
     if (option->state & (State_Raised | State_Sunken))
-        painter->drawRect(option->rect);
+        PaintTools::strokeRect(painter, option->rect);
 }

@@ -3,8 +3,11 @@
 
 #include "CC4Styles/ScrollBarPainter.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QStyleOptionSlider>
+
+#include <iterator>
 
 namespace {
 
@@ -23,21 +26,58 @@ constexpr QRgb greyStrip[] = {0xC7C7C7, 0xE1E1E1, 0xD4D4D4, 0xD4D4D4, 0xD6D6D6, 
 constexpr int sliderInset = 2; // of the slider's strips from the edge of the bar
 constexpr int edgeShade = 115; // percent of the base colour's brightness
 
-template <std::size_t Lines>
-void drawStrips(QPainter *painter, const QRect &rect, const QRgb (&strip)[Lines], int first, bool horizontal)
+/** The colours of the lines, and where the first one is. */
+template <std::size_t Count>
+struct Strip
 {
-    const int last = static_cast<int>(Lines) - 1;
-    for (int line = 0; line <= last; ++line) {
-        const QRect place = horizontal ? QRect(rect.left(), rect.top() + first + last - line, rect.width(), 1)
-                                       : QRect(rect.left() + first + line, rect.top(), 1, rect.height());
-        painter->fillRect(place, QColor(strip[line]));
+    const QRgb (&colors)[Count];
+    int first;
+};
+
+constexpr Strip<21> groove{grooveStrip, 0};
+constexpr Strip<17> blueBody{blueStrip, sliderInset};
+constexpr Strip<17> greyBody{greyStrip, sliderInset};
+
+template <std::size_t Count>
+void drawLevelStrip(QPainter *painter, const QRect &area, const Strip<Count> &strip)
+{
+    int y = area.top() + strip.first + static_cast<int>(Count) - 1; // of the first line, the lowest one
+    for (const QRgb color : strip.colors) {
+        if (y <= area.bottom())
+            painter->fillRect(QRect(area.left(), y, area.width(), 1), QColor(color));
+        --y;
     }
+}
+
+// Columns are slow to fill. A tile that is one pixel high fills the bar row by row.
+template <std::size_t Count>
+QBrush uprightBrush(const Strip<Count> &strip)
+{
+    QImage tile(static_cast<int>(Count), 1, QImage::Format_RGB32);
+    for (std::size_t column = 0; column < Count; ++column)
+        tile.setPixel(static_cast<int>(column), 0, strip.colors[column]);
+    QBrush brush(tile);
+    brush.setTransform(QTransform::fromTranslate(strip.first, 0));
+    return brush;
+}
+
+template <std::size_t Count>
+void drawUprightStrip(QPainter *painter, const QRect &area, const Strip<Count> &strip, const QBrush &brush)
+{
+    const QRect columns(area.left() + strip.first, area.top(), static_cast<int>(Count), area.height());
+    painter->fillRect(columns & area, brush);
 }
 
 void paintGroove(QPainter *picture, const QRect &area, const ScrollBar &bar)
 {
-    ScrollBarPainter::paintGround(picture, area, bar);
-    drawStrips(picture, area, grooveStrip, 0, bar.horizontal);
+    static const QBrush upright = uprightBrush(groove);
+    // The strip covers bars of the usual thickness.
+    if ((bar.horizontal ? area.height() : area.width()) > static_cast<int>(std::size(grooveStrip)))
+        ScrollBarPainter::paintGround(picture, area, bar);
+    if (bar.horizontal)
+        drawLevelStrip(picture, area, groove);
+    else
+        drawUprightStrip(picture, area, groove, upright);
     const QColor shade = bar.option->palette.color(QPalette::Base).darker(edgeShade);
     const QRect edge(area.topLeft(), bar.horizontal ? QSize(area.width(), 1) : QSize(1, area.height()));
     picture->fillRect(edge, QBrush(shade, Qt::Dense4Pattern));
@@ -61,7 +101,13 @@ void paintForwardArrow(QPainter *picture, const QRect &area, const ScrollBar &ba
 
 void paintSlider(QPainter *picture, const QRect &area, const ScrollBar &bar)
 {
-    drawStrips(picture, area, bar.enabled ? blueStrip : greyStrip, sliderInset, bar.horizontal);
+    static const QBrush uprightBlue = uprightBrush(blueBody);
+    static const QBrush uprightGrey = uprightBrush(greyBody);
+    const Strip<17> &body = bar.enabled ? blueBody : greyBody;
+    if (bar.horizontal)
+        drawLevelStrip(picture, area, body);
+    else
+        drawUprightStrip(picture, area, body, bar.enabled ? uprightBlue : uprightGrey);
     ScrollBarPainter::paintHouseCaps(picture, area, bar);
 }
 

@@ -1,13 +1,45 @@
 #include "CC4Styles/PaintTools.h"
 
 #include "UiGraphics.h"
+#include "include/qt_compat.h"
 
 #include <QPixmapCache>
 #include <QStyleOption>
+#include <QVarLengthArray>
+
+#include <array>
+#include <charconv>
+#include <cmath>
 
 namespace PaintTools {
 
 namespace {
+
+/** The text of a key: it is made for every painting, so without the machinery that formats for people. */
+class KeyText
+{
+public:
+    explicit KeyText(QLatin1String start) { m_text.append(start.data(), start.size()); }
+    explicit KeyText(qint64 number) { addNumber(number, 10); }
+
+    void add(char separator, qint64 number, int base = 10)
+    {
+        m_text.append(separator);
+        addNumber(number, base);
+    }
+
+    QString toString() const { return QString::fromLatin1(m_text.constData(), m_text.size()); }
+
+private:
+    void addNumber(qint64 number, int base)
+    {
+        std::array<char, 24> digits;
+        const char *end = std::to_chars(digits.data(), digits.data() + digits.size(), number, base).ptr;
+        m_text.append(digits.data(), static_cast<int>(end - digits.data()));
+    }
+
+    QVarLengthArray<char, 128> m_text;
+};
 
 // The key on a ratio of 1 is the plain one; a picture of another resolution must not be found under it.
 QString keyForRatio(const QString &key, qreal ratio)
@@ -41,27 +73,42 @@ QBrush tiledBrush(QPixmap pixmap)
     return brush;
 }
 
+// A pen and a painter whose strokes are whole pixels, or halves of them where antialiased.
+bool strokesPlainly(const QPainter *painter)
+{
+    const QPen &pen = painter->pen();
+    return pen.style() == Qt::SolidLine && pen.widthF() <= 1.0 && pen.brush().style() == Qt::SolidPattern &&
+           painter->brush().style() == Qt::NoBrush && painter->worldTransform().type() <= QTransform::TxTranslate &&
+           qFuzzyCompare(deviceRatio(painter), 1.0);
+}
+
+// Four lines that meet in the corners and do not cross.
+void drawFrame(QPainter *painter, const QRect &rect, const QColor &color)
+{
+    painter->fillRect(rect.x(), rect.y(), rect.width(), 1, color);
+    painter->fillRect(rect.x(), rect.bottom(), rect.width(), 1, color);
+    painter->fillRect(rect.x(), rect.y() + 1, 1, rect.height() - 2, color);
+    painter->fillRect(rect.right(), rect.y() + 1, 1, rect.height() - 2, color);
+}
+
+QRect scaledRect(const QRect &rect, qreal factor)
+{
+    return QRect((QPointF(rect.topLeft()) * factor).toPoint(), (QSizeF(rect.size()) * factor).toSize());
+}
+
 } // namespace
 
 QString stateKey(QLatin1String key, const QStyleOption *option, const QSize &size)
 {
     const auto *complex = qstyleoption_cast<const QStyleOptionComplex *>(option);
     const QStyle::SubControls active = complex != nullptr ? complex->activeSubControls : QStyle::SC_None;
-    const QLatin1Char dash('-');
-    QString text;
-    text.reserve(key.size() + 64);
-    text += key;
-    text += dash;
-    text += QString::number(static_cast<int>(option->state));
-    text += dash;
-    text += QString::number(static_cast<int>(active));
-    text += dash;
-    text += QString::number(option->palette.cacheKey());
-    text += dash;
-    text += QString::number(size.width());
-    text += QLatin1Char('x');
-    text += QString::number(size.height());
-    return text;
+    KeyText text(key);
+    text.add('-', static_cast<int>(option->state));
+    text.add('-', static_cast<int>(active));
+    text.add('-', option->palette.cacheKey());
+    text.add('-', size.width());
+    text.add('x', size.height());
+    return text.toString();
 }
 
 qreal deviceRatio(const QPainter *painter)
@@ -70,21 +117,33 @@ qreal deviceRatio(const QPainter *painter)
     return device != nullptr ? device->devicePixelRatioF() : 1.0;
 }
 
-CachedPicture::CachedPicture(const QString &key, const QSize &size, const QPainter *painter)
+QPixmap emptyPicture(const QSize &size, qreal ratio)
 {
-    const qreal ratio = deviceRatio(painter);
-    m_key = keyForRatio(key, ratio);
-    m_found = QPixmapCache::find(m_key, &m_pixmap);
-    if (m_found)
-        return;
-    m_pixmap = QPixmap(size * ratio);
-    m_pixmap.setDevicePixelRatio(ratio);
-    m_pixmap.fill(Qt::transparent);
+    QPixmap picture(size * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    return picture;
 }
 
-void CachedPicture::store() const
+QPixmap findPicture(const QString &key, const QPainter *painter)
 {
-    QPixmapCache::insert(m_key, m_pixmap);
+    QPixmap picture;
+    QPixmapCache::find(keyForRatio(key, deviceRatio(painter)), &picture);
+    return picture;
+}
+
+void storePicture(const QString &key, const QPainter *painter, const QPixmap &picture)
+{
+    QPixmapCache::insert(keyForRatio(key, deviceRatio(painter)), picture);
+}
+
+bool showsPixelsAsDrawn(const QPainter *painter)
+{
+    // Parts that cover each other must be opaque or blend as on a picture, and pixels must stay whole.
+    const qreal ratio = deviceRatio(painter);
+    return painter->worldTransform().type() <= QTransform::TxTranslate && qFuzzyCompare(painter->opacity(), 1.0) &&
+           painter->compositionMode() == QPainter::CompositionMode_SourceOver &&
+           qFuzzyCompare(ratio, std::round(ratio));
 }
 
 void fillLine(QPainter *painter, const QPoint &from, const QPoint &to, const QColor &color)
@@ -97,6 +156,36 @@ void fillLine(QPainter *painter, const QPoint &from, const QPoint &to, const QCo
 void fillPoint(QPainter *painter, const QPoint &point, const QColor &color)
 {
     painter->fillRect(QRect(point, QSize(1, 1)), color);
+}
+
+void strokeRect(QPainter *painter, const QRect &rect)
+{
+    if (!strokesPlainly(painter) || rect.width() < 2 || rect.height() < 2) {
+        painter->drawRect(rect);
+        return;
+    }
+    QColor color = painter->pen().color();
+    if (!painter->testRenderHint(QPainter::Antialiasing)) {
+        drawFrame(painter, rect.adjusted(0, 0, 1, 1), color);
+        return;
+    }
+    // Each line lies on the edge between two rows of pixels and covers half of both.
+    color.setAlphaF(color.alphaF() / 2);
+    painter->fillRect(rect.x(), rect.y() - 1, rect.width(), 1, color);
+    painter->fillRect(rect.x(), rect.bottom() + 1, rect.width(), 1, color);
+    painter->fillRect(rect.x() - 1, rect.y(), 1, rect.height(), color);
+    painter->fillRect(rect.right() + 1, rect.y(), 1, rect.height(), color);
+    drawOutline(painter, rect, color); // over each other in the corners, which are darker
+}
+
+void drawInside(QPainter *painter, const QRect &area, const QPoint &topLeft, const QPixmap &bitmap)
+{
+    const QRect place(topLeft, zel::deviceIndependentSize(bitmap));
+    const QRect visible = place & area;
+    if (visible == place)
+        painter->drawPixmap(topLeft, bitmap);
+    else if (!visible.isEmpty())
+        painter->drawPixmap(visible, bitmap, scaledRect(visible.translated(-topLeft), bitmap.devicePixelRatioF()));
 }
 
 void drawOutline(QPainter *painter, const QRect &rect, const QColor &color)
@@ -115,10 +204,11 @@ void fillTiled(QPainter *painter, const QRect &rect, const QPixmap &tile)
 
 void drawVerticalGradient(QPainter *painter, const QRect &rect, const QColor &top, const QColor &bottom)
 {
-    const QString key = QString::number(rect.width()) + QLatin1Char('x') + QString::number(rect.height()) +
-                        QLatin1Char('-') + QString::number(top.rgba(), 16) + QLatin1Char('-') +
-                        QString::number(bottom.rgba(), 16);
-    drawCachedPicture(painter, rect.topLeft(), rect.size(), key, [&](QPainter *picture, const QRect &area) {
+    KeyText key(rect.width());
+    key.add('x', rect.height());
+    key.add('-', top.rgba(), 16);
+    key.add('-', bottom.rgba(), 16);
+    drawCachedPicture(painter, rect.topLeft(), rect.size(), key.toString(), [&](QPainter *picture, const QRect &area) {
         const int x = (area.left() + area.right()) / 2;
         QLinearGradient gradient(x, area.top(), x, area.bottom());
         gradient.setColorAt(0, top);

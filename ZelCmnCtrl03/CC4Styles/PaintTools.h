@@ -18,34 +18,37 @@ QString stateKey(QLatin1String key, const QStyleOption *option, const QSize &siz
 /** The device pixel ratio that a picture for this painter is wanted in. */
 qreal deviceRatio(const QPainter *painter);
 
-/** A picture in QPixmapCache for one painter's device: found under its key, or new, empty and transparent. */
-class CachedPicture
+/** A transparent picture of so many of the painter's pixels. */
+QPixmap emptyPicture(const QSize &size, qreal ratio);
+
+/** What QPixmapCache has under the key for this painter's device; null if nothing. */
+QPixmap findPicture(const QString &key, const QPainter *painter);
+void storePicture(const QString &key, const QPainter *painter, const QPixmap &picture);
+
+/** Whether what is drawn on the painter, piece by piece, looks as if drawn on a picture that is then put there. */
+bool showsPixelsAsDrawn(const QPainter *painter);
+
+/** What `draw(painter, rect)` draws on a picture, rect being (0, 0) and `size`: new, empty and transparent before. */
+template <typename Draw>
+QPixmap newPicture(const QPainter *painter, const QSize &size, Draw &&draw)
 {
-public:
-    CachedPicture(const QString &key, const QSize &size, const QPainter *painter);
-
-    bool isFound() const { return m_found; }
-    QPixmap &pixmap() { return m_pixmap; }
-    void store() const;
-
-private:
-    QString m_key;
-    QPixmap m_pixmap;
-    bool m_found;
-};
+    QPixmap picture = emptyPicture(size, deviceRatio(painter));
+    QPainter picturePainter(&picture);
+    draw(&picturePainter, QRect(QPoint(0, 0), size));
+    picturePainter.end();
+    return picture;
+}
 
 /** The picture of a key and a size that is not empty, found or drawn. */
 template <typename Draw>
 QPixmap cachedPicture(const QPainter *painter, const QSize &size, const QString &key, Draw &&draw)
 {
-    CachedPicture picture(key, size, painter);
-    if (!picture.isFound()) {
-        QPainter picturePainter(&picture.pixmap());
-        draw(&picturePainter, QRect(QPoint(0, 0), size));
-        picturePainter.end();
-        picture.store();
+    QPixmap picture = findPicture(key, painter);
+    if (picture.isNull()) {
+        picture = newPicture(painter, size, draw);
+        storePicture(key, painter, picture);
     }
-    return picture.pixmap();
+    return picture;
 }
 
 /**
@@ -61,18 +64,37 @@ void drawCachedPicture(QPainter *painter, const QPoint &topLeft, const QSize &si
         painter->drawPixmap(topLeft, cachedPicture(painter, size, key, draw));
 }
 
-/** As above, for a picture that is drawn anew each time unless somebody else has stored one under the key. */
+/**
+ * Puts a picture that is not kept at `topLeft`: straight on the painter where that gives the same pixels.
+ *
+ * `draw` has to stay inside its rectangle; a picture would cut off the rest.
+ */
 template <typename Draw>
-void drawFoundPicture(QPainter *painter, const QPoint &topLeft, const QSize &size, const QString &key, Draw &&draw)
+void drawPassingPicture(QPainter *painter, const QPoint &topLeft, const QSize &size, Draw &&draw)
 {
     if (size.isEmpty())
         return;
-    CachedPicture picture(key, size, painter);
-    if (!picture.isFound()) {
-        QPainter picturePainter(&picture.pixmap());
-        draw(&picturePainter, QRect(QPoint(0, 0), size));
+    if (!showsPixelsAsDrawn(painter)) {
+        painter->drawPixmap(topLeft, newPicture(painter, size, draw));
+        return;
     }
-    painter->drawPixmap(topLeft, picture.pixmap());
+    painter->save();
+    painter->translate(topLeft);
+    painter->setBrushOrigin(0, 0);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    draw(painter, QRect(QPoint(0, 0), size));
+    painter->restore();
+}
+
+/** As drawCachedPicture, but drawn anew each time unless somebody else has stored a picture under the key. */
+template <typename Draw>
+void drawFoundPicture(QPainter *painter, const QPoint &topLeft, const QSize &size, const QString &key, Draw &&draw)
+{
+    const QPixmap found = findPicture(key, painter);
+    if (found.isNull())
+        drawPassingPicture(painter, topLeft, size, draw);
+    else
+        painter->drawPixmap(topLeft, found);
 }
 
 /** As drawCachedPicture, with the picture fitted into `target`. */
@@ -88,6 +110,17 @@ void drawFittedPicture(QPainter *painter, const QRect &target, const QSize &size
  */
 void fillLine(QPainter *painter, const QPoint &from, const QPoint &to, const QColor &color);
 void fillPoint(QPainter *painter, const QPoint &point, const QColor &color);
+
+/**
+ * What QPainter::drawRect() strokes with the painter's pen, faster: antialiased or not, where pen and painter are
+ * plain.
+ *
+ * Its right and bottom lines are just outside `rect`. Antialiased, every line is two pixels wide, of half the colour.
+ */
+void strokeRect(QPainter *painter, const QRect &rect);
+
+/** A bitmap at a place of `area`; what would be outside is cut off. */
+void drawInside(QPainter *painter, const QRect &area, const QPoint &topLeft, const QPixmap &bitmap);
 
 /** The outermost pixels of `rect`. */
 void drawOutline(QPainter *painter, const QRect &rect, const QColor &color);

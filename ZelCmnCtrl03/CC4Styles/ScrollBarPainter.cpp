@@ -89,38 +89,39 @@ void paintGround(QPainter *picture, const QRect &area, const ScrollBar &bar)
 
 void paintBlueArrowLeft(QPainter *picture, const QRect &area)
 {
-    picture->drawPixmap(area.topLeft(), bitmap(QStringLiteral("ScrollbarBlueArrowLeft.png"), picture));
+    PaintTools::drawInside(picture, area, area.topLeft(),
+                           bitmap(QStringLiteral("ScrollbarBlueArrowLeft.png"), picture));
 }
 
 void paintBlueArrowRight(QPainter *picture, const QRect &area)
 {
-    picture->drawPixmap(area.right() - forwardArrowFromEnd, area.top(),
-                        bitmap(QStringLiteral("ScrollbarBlueArrowRight.png"), picture));
+    PaintTools::drawInside(picture, area, QPoint(area.right() - forwardArrowFromEnd, area.top()),
+                           bitmap(QStringLiteral("ScrollbarBlueArrowRight.png"), picture));
 }
 
 void paintBlueArrowTop(QPainter *picture, const QRect &area)
 {
-    picture->drawPixmap(area.topLeft(), bitmap(QStringLiteral("ScrollbarBlueArrowTop.png"), picture));
+    PaintTools::drawInside(picture, area, area.topLeft(), bitmap(QStringLiteral("ScrollbarBlueArrowTop.png"), picture));
 }
 
 void paintBlueArrowBottom(QPainter *picture, const QRect &area)
 {
-    picture->drawPixmap(area.left(), area.bottom() - forwardArrowFromEnd,
-                        bitmap(QStringLiteral("ScrollbarBlueArrowBottom.png"), picture));
+    PaintTools::drawInside(picture, area, QPoint(area.left(), area.bottom() - forwardArrowFromEnd),
+                           bitmap(QStringLiteral("ScrollbarBlueArrowBottom.png"), picture));
 }
 
 void paintCaps(QPainter *picture, const QRect &area, const ScrollBar &bar, const QString &name)
 {
-    const auto cap = [&](const char *end) {
-        return bitmap(name + QLatin1String(end), picture);
+    const auto drawCap = [&](const char *end, int x, int y) {
+        PaintTools::drawInside(picture, area, QPoint(x, y), bitmap(name + QLatin1String(end), picture));
     };
     if (bar.horizontal) {
-        picture->drawPixmap(area.left(), area.top() + capInset, cap("Left.png"));
-        picture->drawPixmap(area.right() - secondCapFromEnd, area.top() + capInset, cap("Right.png"));
+        drawCap("Left.png", area.left(), area.top() + capInset);
+        drawCap("Right.png", area.right() - secondCapFromEnd, area.top() + capInset);
         return;
     }
-    picture->drawPixmap(area.left() + capInset, area.top(), cap("Top.png"));
-    picture->drawPixmap(area.left() + capInset, area.bottom() - secondCapFromEnd, cap("Bottom.png"));
+    drawCap("Top.png", area.left() + capInset, area.top());
+    drawCap("Bottom.png", area.left() + capInset, area.bottom() - secondCapFromEnd);
 }
 
 void paintHouseCaps(QPainter *picture, const QRect &area, const ScrollBar &bar)

@@ -49,25 +49,9 @@ QBrush partGround(const QPalette &palette)
     }
 }
 
-using DrawPart = void (*)(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option);
-
-/** What `draw` draws on the ground of the slider, for the device of `target`. */
-QPixmap partPicture(const QPainter *target, const QSize &size, const QStyleOptionSlider *option, DrawPart draw)
-{
-    const qreal ratio = PaintTools::deviceRatio(target);
-    QPixmap picture(size * ratio);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    const QRect rect(QPoint(0, 0), size);
-    QPainter painter(&picture);
-    painter.fillRect(rect, partGround(option->palette));
-    draw(&painter, rect, option);
-    painter.end();
-    return picture;
-}
-
 void drawGroove(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option)
 {
+    painter->fillRect(rect, partGround(option->palette));
     if (option->orientation == Qt::Horizontal)
         PixelTable::draw(painter, rect, SliderPixels::horizontalGroove);
     else
@@ -101,22 +85,47 @@ QBrush verticalHandleFill(const QStyleOptionSlider *option, const QRect &rect)
 
 void drawHandle(QPainter *painter, const QRect &rect, const QStyleOptionSlider *option)
 {
+    painter->fillRect(rect, partGround(option->palette));
     if (option->orientation == Qt::Horizontal)
         return PixelTable::draw(painter, rect, SliderPixels::horizontalHandle);
+    painter->setClipRect(rect, Qt::IntersectClip);
     painter->setPen(Qt::NoPen);
     painter->setBrush(verticalHandleFill(option, rect));
     painter->drawPolygon(verticalHandleShape(rect, hasTicksAbove(option) && !hasTicksBelow(option)));
 }
 
-// The image points at its tick marks: turned over for those above, lowered for those below.
-void placeHandle(QPainter *painter, const QPoint &topLeft, const QPixmap &image, const QStyleOptionSlider *option)
+// The handle points at its tick marks: turned over for those above, lowered for those below.
+bool isTurnedOver(const QStyleOptionSlider *option)
+{
+    return hasTicksAbove(option) && !hasTicksBelow(option);
+}
+
+QPoint handlePlace(const QPoint &topLeft, const QStyleOptionSlider *option)
 {
     if (hasTicksBelow(option))
-        return painter->drawPixmap(topLeft + QPoint(0, dropWithTicksBelow), image);
-    if (!hasTicksAbove(option))
-        return painter->drawPixmap(topLeft, image);
-    const QPixmap mirrored = QPixmap::fromImage(image.toImage().mirrored(false, true));
-    painter->drawPixmap(topLeft - QPoint(0, liftWithTicksAbove), mirrored);
+        return topLeft + QPoint(0, dropWithTicksBelow);
+    return isTurnedOver(option) ? topLeft - QPoint(0, liftWithTicksAbove) : topLeft;
+}
+
+QPixmap turnedOver(const QPixmap &image)
+{
+    return QPixmap::fromImage(image.toImage().mirrored(false, true));
+}
+
+void drawHandlePart(QPainter *painter, const QRect &handle, const QStyleOptionSlider *option, const CSliderEx *slider)
+{
+    const auto draw = [option](QPainter *picture, const QRect &rect) {
+        drawHandle(picture, rect, option);
+    };
+    const QPixmap knob = slider != nullptr ? slider->knobImage() : QPixmap();
+    const QPoint place = handlePlace(handle.topLeft(), option);
+    if (isTurnedOver(option))
+        painter->drawPixmap(place,
+                            turnedOver(knob.isNull() ? PaintTools::newPicture(painter, handle.size(), draw) : knob));
+    else if (!knob.isNull())
+        painter->drawPixmap(place, knob);
+    else
+        PaintTools::drawPassingPicture(painter, place, handle.size(), draw);
 }
 
 // Places of tick marks in the order of drawing; the first and the last one of that order are the long ones.
@@ -199,13 +208,11 @@ void CCommonControlStyle::drawSlider(const QStyleOptionComplex *option, QPainter
     if (sliderEx != nullptr)
         const_cast<CSliderEx *>(sliderEx)->setHandleRect(handle);
 
-    if (slider->subControls.testFlag(SC_SliderGroove) && groove.isValid())
-        painter->drawPixmap(groove.topLeft(), partPicture(painter, groove.size(), slider, drawGroove));
-    if (slider->subControls.testFlag(SC_SliderHandle) && handle.isValid()) {
-        const bool hasKnob = sliderEx != nullptr && !sliderEx->knobImage().isNull();
-        placeHandle(painter, handle.topLeft(),
-                    hasKnob ? sliderEx->knobImage() : partPicture(painter, handle.size(), slider, drawHandle), slider);
-    }
+    if (slider->subControls.testFlag(SC_SliderGroove))
+        PaintTools::drawPassingPicture(painter, groove.topLeft(), groove.size(),
+                                       [slider](QPainter *part, const QRect &rect) { drawGroove(part, rect, slider); });
+    if (slider->subControls.testFlag(SC_SliderHandle) && handle.isValid())
+        drawHandlePart(painter, handle, slider, sliderEx);
     if (slider->subControls.testFlag(SC_SliderTickmarks))
         drawTicks(painter, slider, proxy()->pixelMetric(PM_SliderTickmarkOffset, slider, widget));
 }

@@ -3,6 +3,7 @@
 #include "include/qt_compat.h"
 
 #include <QCursor>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -23,6 +24,7 @@
 #include <shellapi.h> // builds on windows.h
 #else
 #include <dlfcn.h>
+#include <sys/stat.h>
 #endif
 
 namespace Platform {
@@ -88,6 +90,20 @@ QString displayName(const QString &path)
 #else
     const QFileInfo file(path);
     return file.exists() ? file.fileName() : QString();
+#endif
+}
+
+FileStamp fileStamp(const QString &path)
+{
+#ifdef Q_OS_WIN
+    const QFileInfo file(path);
+    return file.exists() ? FileStamp{file.lastModified().toMSecsSinceEpoch() * 1000000, file.size()} : FileStamp();
+#else
+    struct stat status;
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return FileStamp();
+    const timespec &written = status.st_mtim;
+    return {qint64(written.tv_sec) * 1000000000 + written.tv_nsec, qint64(status.st_size)};
 #endif
 }
 

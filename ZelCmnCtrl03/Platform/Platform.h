@@ -36,6 +36,19 @@ QString displayName(const QString &path);
  */
 QString fileOfAddress(const void *address);
 
+/** What tells one content of a file from another: when it was written last, in nanoseconds, and its size in bytes. */
+struct FileStamp
+{
+    qint64 written = 0;
+    qint64 size = -1;
+
+    bool exists() const { return size >= 0; }
+};
+
+/** The stamp of a file or directory, if there is one; quick, because every painting that loads a bitmap asks for
+ * several. */
+FileStamp fileStamp(const QString &path);
+
 /**
  * A style object of its own that draws standard push buttons as the platform does.
  *
