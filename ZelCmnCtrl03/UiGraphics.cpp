@@ -17,6 +17,7 @@ CUIGraphics::GetLanguageFunction CUIGraphics::m_pGetLanguage = nullptr;
 CUIGraphics::RetrievePathFunction CUIGraphics::m_pRetrievePath = nullptr;
 QString CUIGraphics::m_sLanguage;
 QString CUIGraphics::m_sGraphicsDir;
+QStringList CUIGraphics::m_searchedDirs;
 QMap<QString, quint32> CUIGraphics::m_colorMap;
 QMap<QString, QString> CUIGraphics::m_fontMap;
 LookUse CUIGraphics::m_use;
@@ -47,6 +48,7 @@ bool CUIGraphics::initializeUIG()
         return false;
     m_sLanguage.clear();
     m_sGraphicsDir.clear();
+    m_searchedDirs.clear();
     GetCULValues(QStringLiteral("CommonGraphicsDir"));
     ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::initializeUIG :: After GetCULValues"));
     initializeColorMap();
@@ -106,6 +108,8 @@ void CUIGraphics::GetCULValues(const QString &key)
         return;
     ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::RetrieveFilePath : BaseValue found"));
     m_sGraphicsDir = QString::fromUtf16(value);
+    const QString common = m_sGraphicsDir + QLatin1Char('/');
+    m_searchedDirs = QStringList{common + m_sLanguage + QLatin1Char('/'), common};
     ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::GetCULValues : graphics directory: ") + m_sGraphicsDir);
 }
 
@@ -118,12 +122,9 @@ void CUIGraphics::initializeColorMap()
 
 void CUIGraphics::readXmlFiles()
 {
-    if (m_sGraphicsDir.isEmpty())
-        return;
     // The language's file comes second, so that its values win.
-    const QString common = m_sGraphicsDir + QLatin1Char('/');
-    m_use.xmlSought =
-        QStringList{common + lookOverridesFile, common + m_sLanguage + QLatin1Char('/') + lookOverridesFile};
+    for (const QString &dir : std::as_const(m_searchedDirs))
+        m_use.xmlSought.prepend(dir + lookOverridesFile);
     for (const QString &path : std::as_const(m_use.xmlSought))
         if (QFile::exists(path))
             ReadUIGraphicsXml(path);

@@ -11,6 +11,7 @@
 #include <QMap>
 #include <QPixmap>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 struct LookOverride;
@@ -108,6 +109,7 @@ private:
     static RetrievePathFunction m_pRetrievePath;
     static QString m_sLanguage;
     static QString m_sGraphicsDir;
+    static QStringList m_searchedDirs; // for files, the language's first; each with a separator at its end
     static QMap<QString, quint32> m_colorMap;
     static QMap<QString, QString> m_fontMap;
     static LookUse m_use;

@@ -7,6 +7,8 @@
 #include <QImageReader>
 #include <QPixmapCache>
 
+#include <utility>
+
 namespace {
 
 QString withDisplayNames(const QString &path, QChar separator)
@@ -56,15 +58,13 @@ CUIGraphics::FoundFile CUIGraphics::findFile(const QString &fileName)
         ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::RetrieveFilePath : File Name is Empty"));
         return {};
     }
-    if (!m_sGraphicsDir.isEmpty()) {
-        const QString common = m_sGraphicsDir + QLatin1Char('/');
-        for (const QString &path : {common + m_sLanguage + QLatin1Char('/') + fileName, common + fileName}) {
-            const Platform::FileStamp stamp = Platform::fileStamp(path);
-            if (!stamp.exists())
-                continue;
-            ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::RetrieveFilePath : Graphics path found : %1").arg(path));
-            return {path, stamp};
-        }
+    for (const QString &dir : std::as_const(m_searchedDirs)) {
+        const QString path = dir + fileName;
+        const Platform::FileStamp stamp = Platform::fileStamp(path);
+        if (!stamp.exists())
+            continue;
+        ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::RetrieveFilePath : Graphics path found : %1").arg(path));
+        return {path, stamp};
     }
     ZEL_UIG_DETAIL(
         QStringLiteral("CUIGraphics::RetrieveFilePath : ERROR : Graphics path not found for: %1").arg(fileName));

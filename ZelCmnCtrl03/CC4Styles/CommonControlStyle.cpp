@@ -155,7 +155,14 @@ void CCommonControlStyle::drawControl(ControlElement element, const QStyleOption
     case CE_HeaderSection: return drawHeaderSection(option, painter);
     case CE_Splitter: return drawSplitter(option, painter);
     case CE_ComboBoxLabel: return drawComboBoxLabel(option, painter, widget);
-    case CE_ItemViewItem: return QCommonStyle::drawControl(element, option, painter, widget); // by our own metrics
+    case CE_ItemViewItem:
+        return QCommonStyle::drawControl(element, option, painter, widget); // by our own metrics
+    // Bases draw these as every style does, on a longer way.
+    case CE_PushButton:
+    case CE_CheckBox:
+    case CE_CheckBoxLabel:
+    case CE_RadioButton:
+    case CE_RadioButtonLabel: return QCommonStyle::drawControl(element, option, painter, widget);
     default: return QProxyStyle::drawControl(element, option, painter, widget);
     }
 }

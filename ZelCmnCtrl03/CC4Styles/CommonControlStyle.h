@@ -189,6 +189,7 @@ private:
     QRect comboBoxRect(const QStyleOptionComplex *option, SubControl subControl, const QWidget *widget) const;
 
     void drawPushButtonBevel(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawDefaultFrame(const QStyleOptionButton *option, QPainter *painter, const QWidget *widget) const;
     void drawPushButtonFace(const QStyleOptionButton *option, const QRect &face, QPainter *painter,
                             const QWidget *widget) const;
     void drawPushButtonChevron(const QStyleOptionButton *option, const QRect &face, QPainter *painter,

@@ -146,6 +146,28 @@ bool showsPixelsAsDrawn(const QPainter *painter)
            qFuzzyCompare(ratio, std::round(ratio));
 }
 
+OnPicture::OnPicture(QPainter *painter, const QPoint &topLeft)
+    : m_painter(painter),
+      m_topLeft(topLeft),
+      m_brushOrigin(painter->brushOrigin()),
+      m_wasAntialiased(painter->testRenderHint(QPainter::Antialiasing))
+{
+    painter->translate(topLeft);
+    if (!m_brushOrigin.isNull())
+        painter->setBrushOrigin(0, 0);
+    if (m_wasAntialiased)
+        painter->setRenderHint(QPainter::Antialiasing, false);
+}
+
+OnPicture::~OnPicture()
+{
+    if (m_wasAntialiased)
+        m_painter->setRenderHint(QPainter::Antialiasing);
+    if (!m_brushOrigin.isNull())
+        m_painter->setBrushOrigin(m_brushOrigin);
+    m_painter->translate(-m_topLeft);
+}
+
 void fillLine(QPainter *painter, const QPoint &from, const QPoint &to, const QColor &color)
 {
     const QPoint topLeft(qMin(from.x(), to.x()), qMin(from.y(), to.y()));
@@ -213,6 +235,23 @@ void drawVerticalGradient(QPainter *painter, const QRect &rect, const QColor &to
         QLinearGradient gradient(x, area.top(), x, area.bottom());
         gradient.setColorAt(0, top);
         gradient.setColorAt(1, bottom);
+        picture->fillRect(area, gradient);
+    });
+}
+
+void drawLinearGradient(QPainter *painter, const QRect &rect, const QLine &direction, const QColor &from,
+                        const QColor &to)
+{
+    const QLine line = direction.translated(-rect.topLeft());
+    KeyText key(QLatin1String("gradient"));
+    for (const int number : {rect.width(), rect.height(), line.x1(), line.y1(), line.x2(), line.y2()})
+        key.add('-', number);
+    key.add('-', from.rgba(), 16);
+    key.add('-', to.rgba(), 16);
+    drawCachedPicture(painter, rect.topLeft(), rect.size(), key.toString(), [&](QPainter *picture, const QRect &area) {
+        QLinearGradient gradient(line.p1(), line.p2());
+        gradient.setColorAt(0, from);
+        gradient.setColorAt(1, to);
         picture->fillRect(area, gradient);
     });
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QColor>
+#include <QLine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -64,10 +65,25 @@ void drawCachedPicture(QPainter *painter, const QPoint &topLeft, const QSize &si
         painter->drawPixmap(topLeft, cachedPicture(painter, size, key, draw));
 }
 
+/** Has a painter draw as a new one on a picture at `topLeft` would. Much quicker than to save and restore all of it. */
+class OnPicture
+{
+public:
+    OnPicture(QPainter *painter, const QPoint &topLeft);
+    ~OnPicture();
+    Q_DISABLE_COPY(OnPicture)
+
+private:
+    QPainter *const m_painter;
+    const QPoint m_topLeft;
+    const QPoint m_brushOrigin;
+    const bool m_wasAntialiased;
+};
+
 /**
  * Puts a picture that is not kept at `topLeft`: straight on the painter where that gives the same pixels.
  *
- * `draw` has to stay inside its rectangle; a picture would cut off the rest.
+ * `draw` has to stay inside its rectangle, where a picture would cut off the rest, and to leave the painter as it was.
  */
 template <typename Draw>
 void drawPassingPicture(QPainter *painter, const QPoint &topLeft, const QSize &size, Draw &&draw)
@@ -78,12 +94,8 @@ void drawPassingPicture(QPainter *painter, const QPoint &topLeft, const QSize &s
         painter->drawPixmap(topLeft, newPicture(painter, size, draw));
         return;
     }
-    painter->save();
-    painter->translate(topLeft);
-    painter->setBrushOrigin(0, 0);
-    painter->setRenderHint(QPainter::Antialiasing, false);
+    const OnPicture onPicture(painter, topLeft);
     draw(painter, QRect(QPoint(0, 0), size));
-    painter->restore();
 }
 
 /** As drawCachedPicture, but drawn anew each time unless somebody else has stored a picture under the key. */
@@ -130,6 +142,10 @@ void fillTiled(QPainter *painter, const QRect &rect, const QPixmap &tile);
 
 /** A vertical gradient over `rect`, rendered once per size and pair of colours. */
 void drawVerticalGradient(QPainter *painter, const QRect &rect, const QColor &top, const QColor &bottom);
+
+/** A gradient over `rect` from one point of it to another, rendered once per size, direction and pair of colours. */
+void drawLinearGradient(QPainter *painter, const QRect &rect, const QLine &direction, const QColor &from,
+                        const QColor &to);
 
 /** `factor` percent of colorA in colorB, per channel and truncated; the alpha is colorA's. */
 QColor mergedColors(const QColor &colorA, const QColor &colorB, int factor);

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <unordered_map>
+
 namespace PixelTable {
 
 namespace {
@@ -18,6 +20,21 @@ QRect placed(const Operation &operation, const QRect &rect)
     return QRect(
         QPoint(placed(operation.x1, rect.left(), rect.right()), placed(operation.y1, rect.top(), rect.bottom())),
         QPoint(placed(operation.x2, rect.left(), rect.right()), placed(operation.y2, rect.top(), rect.bottom())));
+}
+
+// The registry does not change once it has started, and the keys are literals: what was found is found by their
+// addresses from then on.
+QColor colorOf(const char *key)
+{
+    static std::unordered_map<const char *, QColor> known;
+    const auto found = known.find(key);
+    if (found != known.end())
+        return found->second;
+    const bool isFinal = CUIGraphics::initializeUIG();
+    const QColor color = UIGGetColor(QLatin1String(key));
+    if (isFinal)
+        known.emplace(key, color);
+    return color;
 }
 
 } // namespace
@@ -39,7 +56,7 @@ void draw(QPainter *painter, const QRect &rect, const Operation *operations, std
         const Ink &ink = operation->ink;
         if (ink.colorKey != colorKey) { // runs of one key are looked up once
             colorKey = ink.colorKey;
-            color = UIGGetColor(QLatin1String(colorKey));
+            color = colorOf(colorKey);
         }
         color.setAlpha(ink.alphaSlot >= 0 ? alphas[ink.alphaSlot] : ink.alpha);
         // Rectangles and no lines: they are whole pixels on every device pixel ratio.

@@ -360,7 +360,7 @@ void CCommonControlStyle::drawPushButtonBevel(const QStyleOption *option, QPaint
         return;
     QRect face = option->rect;
     if (buttonOption->features & QStyleOptionButton::DefaultButton)
-        proxy()->drawPrimitive(PE_FrameDefaultButton, option, painter, widget);
+        drawDefaultFrame(buttonOption, painter, widget);
     if (buttonOption->features & QStyleOptionButton::AutoDefaultButton) {
         const int indicator = proxy()->pixelMetric(PM_ButtonDefaultIndicator, option, widget);
         face.adjust(indicator, indicator, -indicator, -indicator);
@@ -370,6 +370,21 @@ void CCommonControlStyle::drawPushButtonBevel(const QStyleOption *option, QPaint
         drawPushButtonFace(buttonOption, face, painter, widget);
     if (const auto *button = qobject_cast<const CButtonEx *>(widget))
         drawPushButtonChevron(buttonOption, face, painter, button);
+}
+
+// The base's. Plastique draws it line by line, Fusion has none.
+void CCommonControlStyle::drawDefaultFrame(const QStyleOptionButton *option, QPainter *painter,
+                                           const QWidget *widget) const
+{
+    if (m_bFusionIsBase)
+        return proxy()->drawPrimitive(PE_FrameDefaultButton, option, painter, widget);
+    const QRect rect = option->rect;
+    const QString key = PaintTools::stateKey(QLatin1String("framedefaultbutton"), option, rect.size());
+    PaintTools::drawCachedPicture(painter, rect.topLeft(), rect.size(), key, [&](QPainter *picture, const QRect &area) {
+        QStyleOptionButton frame = *option;
+        frame.rect = area;
+        proxy()->drawPrimitive(PE_FrameDefaultButton, &frame, picture, widget);
+    });
 }
 
 void CCommonControlStyle::drawPushButtonFace(const QStyleOptionButton *option, const QRect &face, QPainter *painter,

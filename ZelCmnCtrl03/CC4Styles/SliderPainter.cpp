@@ -38,6 +38,12 @@ bool hasTicksBelow(const QStyleOptionSlider *option)
     return (option->tickPosition & QSlider::TicksBelow) != 0;
 }
 
+// A handle points at its tick marks: away from where it points without any, for those above alone.
+bool isTurnedOver(const QStyleOptionSlider *option)
+{
+    return hasTicksAbove(option) && !hasTicksBelow(option);
+}
+
 // What a part's picture is filled with. A gradient would begin anew in each part.
 QBrush partGround(const QPalette &palette)
 {
@@ -88,18 +94,15 @@ void drawHandle(QPainter *painter, const QRect &rect, const QStyleOptionSlider *
     painter->fillRect(rect, partGround(option->palette));
     if (option->orientation == Qt::Horizontal)
         return PixelTable::draw(painter, rect, SliderPixels::horizontalHandle);
+    painter->save();
     painter->setClipRect(rect, Qt::IntersectClip);
     painter->setPen(Qt::NoPen);
     painter->setBrush(verticalHandleFill(option, rect));
-    painter->drawPolygon(verticalHandleShape(rect, hasTicksAbove(option) && !hasTicksBelow(option)));
+    painter->drawPolygon(verticalHandleShape(rect, isTurnedOver(option)));
+    painter->restore();
 }
 
-// The handle points at its tick marks: turned over for those above, lowered for those below.
-bool isTurnedOver(const QStyleOptionSlider *option)
-{
-    return hasTicksAbove(option) && !hasTicksBelow(option);
-}
-
+// Lowered to tick marks below, lifted to those above.
 QPoint handlePlace(const QPoint &topLeft, const QStyleOptionSlider *option)
 {
     if (hasTicksBelow(option))

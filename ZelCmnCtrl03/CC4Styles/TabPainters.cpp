@@ -130,10 +130,10 @@ void drawFace(QPainter *painter, const QRect &rect, const StandingTab &tab, cons
     fillLine(painter, tab.bottomLeft + tab.right + 2 * tab.up, tab.bottomRight + tab.left() + 2 * tab.up,
              UIGGetColor(QStringLiteral("UIGCLR_TABBAR_IN")));
     // Along the tab, not across it.
-    QLinearGradient gradient(lines.topStart + 2 * tab.right, lines.topEnd + 2 * tab.left());
-    gradient.setColorAt(0.0, UIGGetColor(QStringLiteral("UIGCLR_RECTGRAD1")));
-    gradient.setColorAt(1.0, UIGGetColor(QStringLiteral("UIGCLR_RECTGRAD2")));
-    painter->fillRect(rect.adjusted(2, 2, -2, -3), gradient);
+    const QLine direction(lines.topStart + 2 * tab.right, lines.topEnd + 2 * tab.left());
+    PaintTools::drawLinearGradient(painter, rect.adjusted(2, 2, -2, -3), direction,
+                                   UIGGetColor(QStringLiteral("UIGCLR_RECTGRAD1")),
+                                   UIGGetColor(QStringLiteral("UIGCLR_RECTGRAD2")));
 }
 
 // A selected tab is open to its page: the line below it is two stubs.
