@@ -19,7 +19,9 @@
 
 namespace {
 
-const QString group = QStringLiteral("house controls");
+const QString group = QStringLiteral("controls beside those of Qt");
+const QString ourName = QStringLiteral("ours");
+const QString peerName = QStringLiteral("Fusion");
 
 QStyle &fusion()
 {
@@ -38,19 +40,16 @@ Contender paintingOf(const QString &name, const std::shared_ptr<QWidget> &widget
 
 /** Both are prepared by the same function, so that they show the same. */
 template <typename Ours, typename Peer, typename Prepare>
-Comparison paintingBeside(const QString &name, const QSize &size, Prepare prepare)
+Comparison paintingBeside(const QSize &size, Prepare prepare)
 {
     const auto ours = std::make_shared<Ours>();
     const auto peer = std::make_shared<Peer>();
     prepare(*ours);
     prepare(*peer);
     dress(*peer, fusion(), size);
-    return {group,
-            name,
-            nanoseconds,
-            {paintingOf(QStringLiteral("ours"), ours, size),
-             paintingOf(QLatin1String(Peer::staticMetaObject.className()), peer, size)},
-            {}};
+    const QString names = QLatin1String(Ours::staticMetaObject.className()) + QStringLiteral(", ") +
+                          QLatin1String(Peer::staticMetaObject.className());
+    return {group, names, nanoseconds, {paintingOf(ourName, ours, size), paintingOf(peerName, peer, size)}, {}};
 }
 
 /** Closes a dialog after its first painting. */
@@ -94,10 +93,9 @@ Comparison messageBoxes()
     const QString title = QStringLiteral("Printing");
     const QString message = QStringLiteral("The paper tray is empty. Put paper in and try again.");
     return {group,
-            QStringLiteral("CMessageBoxEx, from made to painted"),
+            QStringLiteral("CMessageBoxEx, QMessageBox: until shown"),
             nanoseconds,
-            {{QStringLiteral("ours"), [=] { showOurs(title, message); }, {}},
-             {QStringLiteral("QMessageBox"), [=] { showPeer(title, message); }, {}}},
+            {{ourName, [=] { showOurs(title, message); }, {}}, {peerName, [=] { showPeer(title, message); }, {}}},
             {}};
 }
 
@@ -120,11 +118,11 @@ std::vector<Comparison> houseControls()
         box.addItem(QStringLiteral("Glossy paper"));
     };
     return {
-        paintingBeside<CButtonEx, QPushButton>(QStringLiteral("CButtonEx"), QSize(96, 28), print),
-        paintingBeside<CTextBoxEx, QLineEdit>(QStringLiteral("CTextBoxEx"), QSize(160, 24), write),
-        paintingBeside<CSliderEx, QSlider>(QStringLiteral("CSliderEx"), QSize(200, 31), lay),
-        paintingBeside<CDSliderEx, QSlider>(QStringLiteral("CDSliderEx"), QSize(200, 31), leave),
-        paintingBeside<CDropDownEx, QComboBox>(QStringLiteral("CDropDownEx"), QSize(140, 24), fill),
+        paintingBeside<CButtonEx, QPushButton>(QSize(96, 28), print),
+        paintingBeside<CTextBoxEx, QLineEdit>(QSize(160, 24), write),
+        paintingBeside<CSliderEx, QSlider>(QSize(200, 31), lay),
+        paintingBeside<CDSliderEx, QSlider>(QSize(200, 31), leave),
+        paintingBeside<CDropDownEx, QComboBox>(QSize(140, 24), fill),
         messageBoxes(),
     };
 }

@@ -36,9 +36,9 @@ Comparison colors()
             keep(QColor::fromRgb(map.value(key, 0)));
     };
     return {group,
-            QStringLiteral("UIGGetColor"),
+            QStringLiteral("UIGGetColor, a search in a QMap"),
             nanoseconds,
-            {{QStringLiteral("ours"), ours, {}}, {QStringLiteral("QMap"), bare, {}}},
+            {{QStringLiteral("ours"), ours, {}}, {QStringLiteral("bare"), bare, {}}},
             {Promise::Ratio, 1.1, {}},
             manyTimes};
 }
@@ -48,10 +48,10 @@ Comparison pixmaps()
     const QString name = QStringLiteral("PushbuttonWhiteBlit.png");
     const QString path = CUIGraphics::UIGGetImagePath(name);
     return {group,
-            QStringLiteral("UIGGetPixmap"),
+            QStringLiteral("UIGGetPixmap, QPixmap(path)"),
             nanoseconds,
             {{QStringLiteral("ours"), [name] { keep(UIGGetPixmap(name)); }, {}},
-             {QStringLiteral("QPixmap(path)"), [path] { keep(QPixmap(path)); }, {}}},
+             {QStringLiteral("bare"), [path] { keep(QPixmap(path)); }, {}}},
             {}};
 }
 
@@ -76,10 +76,10 @@ Comparison logScope()
         };
     };
     return {group,
-            QStringLiteral("log scope, switched off"),
+            QStringLiteral("an operation with a log scope, without"),
             nanoseconds,
-            {{QStringLiteral("with"), manyOf(operationWithScope), {}},
-             {QStringLiteral("without"), manyOf(operationWithout), {}}},
+            {{QStringLiteral("ours"), manyOf(operationWithScope), {}},
+             {QStringLiteral("bare"), manyOf(operationWithout), {}}},
             {Promise::Difference, 2.0, {}},
             manyTimes};
 }

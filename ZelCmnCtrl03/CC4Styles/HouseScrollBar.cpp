@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyleOptionSlider>
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -49,38 +50,48 @@ void drawLevelStrip(QPainter *painter, const QRect &area, const Strip<Count> &st
     }
 }
 
-// Columns are slow to fill. A tile that is one pixel high fills the bar row by row.
-template <std::size_t Count>
-QBrush uprightBrush(const Strip<Count> &strip)
-{
-    QImage tile(static_cast<int>(Count), 1, QImage::Format_RGB32);
-    for (std::size_t column = 0; column < Count; ++column)
-        tile.setPixel(static_cast<int>(column), 0, strip.colors[column]);
-    QBrush brush(tile);
-    brush.setTransform(QTransform::fromTranslate(strip.first, 0));
-    return brush;
-}
+// Columns are slow to fill. A piece of the bar is kept as an image and put there as often as it takes.
+constexpr int pieceLength = 64;
 
 template <std::size_t Count>
-void drawUprightStrip(QPainter *painter, const QRect &area, const Strip<Count> &strip, const QBrush &brush)
+QImage uprightPiece(const Strip<Count> &strip)
 {
-    const QRect columns(area.left() + strip.first, area.top(), static_cast<int>(Count), area.height());
-    painter->fillRect(columns & area, brush);
+    QImage piece(static_cast<int>(Count), pieceLength, QImage::Format_RGB32);
+    for (int y = 0; y < pieceLength; ++y)
+        for (std::size_t column = 0; column < Count; ++column)
+            piece.setPixel(static_cast<int>(column), y, strip.colors[column]);
+    return piece;
+}
+
+void drawUpright(QPainter *painter, const QRect &area, int first, const QImage &piece)
+{
+    const int width = std::min(piece.width(), area.width() - first);
+    for (int y = 0; y < area.height(); y += pieceLength) {
+        const QRect visible(0, 0, width, std::min(pieceLength, area.height() - y));
+        painter->drawImage(area.topLeft() + QPoint(first, y), piece, visible);
+    }
+}
+
+// With the shade of its outermost column, every other pixel, which depends on the palette.
+const QImage &uprightGroove(QRgb shade)
+{
+    static QImage piece = uprightPiece(groove);
+    if (piece.pixel(0, 1) != shade)
+        for (int y = 1; y < pieceLength; y += 2)
+            piece.setPixel(0, y, shade);
+    return piece;
 }
 
 void paintGroove(QPainter *picture, const QRect &area, const ScrollBar &bar)
 {
-    static const QBrush upright = uprightBrush(groove);
     // The strip covers bars of the usual thickness.
     if ((bar.horizontal ? area.height() : area.width()) > static_cast<int>(std::size(grooveStrip)))
         ScrollBarPainter::paintGround(picture, area, bar);
-    if (bar.horizontal)
-        drawLevelStrip(picture, area, groove);
-    else
-        drawUprightStrip(picture, area, groove, upright);
     const QColor shade = bar.option->palette.color(QPalette::Base).darker(edgeShade);
-    const QRect edge(area.topLeft(), bar.horizontal ? QSize(area.width(), 1) : QSize(1, area.height()));
-    picture->fillRect(edge, QBrush(shade, Qt::Dense4Pattern));
+    if (!bar.horizontal)
+        return drawUpright(picture, area, 0, uprightGroove(shade.rgb()));
+    drawLevelStrip(picture, area, groove);
+    picture->fillRect(QRect(area.topLeft(), QSize(area.width(), 1)), QBrush(shade, Qt::Dense4Pattern));
 }
 
 void paintBackArrow(QPainter *picture, const QRect &area, const ScrollBar &bar)
@@ -101,13 +112,12 @@ void paintForwardArrow(QPainter *picture, const QRect &area, const ScrollBar &ba
 
 void paintSlider(QPainter *picture, const QRect &area, const ScrollBar &bar)
 {
-    static const QBrush uprightBlue = uprightBrush(blueBody);
-    static const QBrush uprightGrey = uprightBrush(greyBody);
-    const Strip<17> &body = bar.enabled ? blueBody : greyBody;
+    static const QImage uprightBlue = uprightPiece(blueBody);
+    static const QImage uprightGrey = uprightPiece(greyBody);
     if (bar.horizontal)
-        drawLevelStrip(picture, area, body);
+        drawLevelStrip(picture, area, bar.enabled ? blueBody : greyBody);
     else
-        drawUprightStrip(picture, area, body, bar.enabled ? uprightBlue : uprightGrey);
+        drawUpright(picture, area, sliderInset, bar.enabled ? uprightBlue : uprightGrey);
     ScrollBarPainter::paintHouseCaps(picture, area, bar);
 }
 

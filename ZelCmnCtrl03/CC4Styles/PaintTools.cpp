@@ -7,6 +7,7 @@
 #include <QStyleOption>
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -78,8 +79,8 @@ bool strokesPlainly(const QPainter *painter)
 {
     const QPen &pen = painter->pen();
     return pen.style() == Qt::SolidLine && pen.widthF() <= 1.0 && pen.brush().style() == Qt::SolidPattern &&
-           painter->brush().style() == Qt::NoBrush && painter->worldTransform().type() <= QTransform::TxTranslate &&
-           qFuzzyCompare(deviceRatio(painter), 1.0);
+           pen.color().alpha() == 255 && painter->brush().style() == Qt::NoBrush &&
+           painter->worldTransform().type() <= QTransform::TxTranslate && qFuzzyCompare(deviceRatio(painter), 1.0);
 }
 
 // Four lines that meet in the corners and do not cross.
@@ -89,6 +90,16 @@ void drawFrame(QPainter *painter, const QRect &rect, const QColor &color)
     painter->fillRect(rect.x(), rect.bottom(), rect.width(), 1, color);
     painter->fillRect(rect.x(), rect.y() + 1, 1, rect.height() - 2, color);
     painter->fillRect(rect.right(), rect.y() + 1, 1, rect.height() - 2, color);
+}
+
+// Qt 6 hands a translucent fill of more rows to other threads, which takes ten times as long as a column.
+constexpr int rowsAtOnce = 64;
+
+void fillColumn(QPainter *painter, int x, int y, int height, const QColor &color)
+{
+    const int end = y + height;
+    for (; y < end; y += rowsAtOnce)
+        painter->fillRect(x, y, 1, std::min(rowsAtOnce, end - y), color);
 }
 
 QRect scaledRect(const QRect &rect, qreal factor)
@@ -139,7 +150,7 @@ void storePicture(const QString &key, const QPainter *painter, const QPixmap &pi
 
 bool showsPixelsAsDrawn(const QPainter *painter)
 {
-    // Parts that cover each other must be opaque or blend as on a picture, and pixels must stay whole.
+    // Parts that cover each other must blend as on a picture, and pixels must stay whole.
     const qreal ratio = deviceRatio(painter);
     return painter->worldTransform().type() <= QTransform::TxTranslate && qFuzzyCompare(painter->opacity(), 1.0) &&
            painter->compositionMode() == QPainter::CompositionMode_SourceOver &&
@@ -193,11 +204,10 @@ void strokeRect(QPainter *painter, const QRect &rect)
     }
     // Each line lies on the edge between two rows of pixels and covers half of both.
     color.setAlphaF(color.alphaF() / 2);
-    painter->fillRect(rect.x(), rect.y() - 1, rect.width(), 1, color);
-    painter->fillRect(rect.x(), rect.bottom() + 1, rect.width(), 1, color);
-    painter->fillRect(rect.x() - 1, rect.y(), 1, rect.height(), color);
-    painter->fillRect(rect.right() + 1, rect.y(), 1, rect.height(), color);
-    drawOutline(painter, rect, color); // over each other in the corners, which are darker
+    for (const int y : {rect.y() - 1, rect.y(), rect.bottom(), rect.bottom() + 1})
+        painter->fillRect(rect.x(), y, rect.width(), 1, color);
+    for (const int x : {rect.x() - 1, rect.x(), rect.right(), rect.right() + 1}) // over the rows in the corners
+        fillColumn(painter, x, rect.y(), rect.height(), color);
 }
 
 void drawInside(QPainter *painter, const QRect &area, const QPoint &topLeft, const QPixmap &bitmap)

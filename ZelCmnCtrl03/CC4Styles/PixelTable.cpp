@@ -45,7 +45,8 @@ void draw(QPainter *painter, const QRect &rect, const Operation *operations, std
         return;
     // Antialiasing would smear the edges of pixels on a fractional device pixel ratio.
     const bool wasAntialiased = painter->testRenderHint(QPainter::Antialiasing);
-    painter->setRenderHint(QPainter::Antialiasing, false);
+    if (wasAntialiased)
+        painter->setRenderHint(QPainter::Antialiasing, false);
 
     const char *colorKey = nullptr;
     QColor color;
@@ -62,7 +63,8 @@ void draw(QPainter *painter, const QRect &rect, const Operation *operations, std
         // Rectangles and no lines: they are whole pixels on every device pixel ratio.
         painter->fillRect(pixels & rect, color);
     }
-    painter->setRenderHint(QPainter::Antialiasing, wasAntialiased);
+    if (wasAntialiased)
+        painter->setRenderHint(QPainter::Antialiasing);
 }
 
 } // namespace PixelTable

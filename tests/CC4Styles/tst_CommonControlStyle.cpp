@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QStyleFactory>
 
+#include <functional>
+
 class tst_CommonControlStyle : public HouseTest
 {
     Q_OBJECT
@@ -24,6 +26,10 @@ private Q_SLOTS:
     void uniqueNameTellsStates();
     void picturesAreDrawnOncePerKey();
     void picturesAreCrispOnEveryRatio();
+    void thinFramesAreThoseOfTheStroker_data();
+    void thinFramesAreThoseOfTheStroker();
+    void passingPicturesLookLikePictures_data();
+    void passingPicturesLookLikePictures();
     void gradientIsCachedByColoursAndSize();
     void mergedColors_data();
     void mergedColors();
@@ -205,6 +211,92 @@ void tst_CommonControlStyle::picturesAreCrispOnEveryRatio()
     QPixmap cached;
     QVERIFY(!QPixmapCache::find(QStringLiteral("ratio"), &cached));
     QVERIFY(QPixmapCache::find(QStringLiteral("ratio@2"), &cached));
+}
+
+void tst_CommonControlStyle::thinFramesAreThoseOfTheStroker_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QPen>("pen");
+    QTest::addColumn<bool>("antialiased");
+    QTest::addColumn<qreal>("ratio");
+    const QPen thin(Qt::red, 0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
+    QTest::newRow("crisp") << QSize(30, 20) << thin << false << 1.0;
+    QTest::newRow("antialiased") << QSize(30, 20) << thin << true << 1.0;
+    QTest::newRow("antialiased and high") << QSize(5, 150) << thin << true << 1.0;
+    QTest::newRow("translucent, crisp") << QSize(30, 20) << QPen(QColor(0, 0, 255, 100)) << false << 1.0;
+    QTest::newRow("translucent, antialiased") << QSize(30, 20) << QPen(QColor(0, 0, 255, 100), 0) << true << 1.0;
+    QTest::newRow("a line") << QSize(30, 1) << thin << true << 1.0;
+    QTest::newRow("nothing") << QSize(0, 0) << thin << true << 1.0;
+    QTest::newRow("dashed") << QSize(30, 20) << QPen(Qt::red, 0, Qt::DashLine) << false << 1.0;
+    QTest::newRow("thick") << QSize(30, 20) << QPen(Qt::red, 3) << true << 1.0;
+    QTest::newRow("dense screen") << QSize(30, 20) << thin << true << 2.0;
+}
+
+void tst_CommonControlStyle::thinFramesAreThoseOfTheStroker()
+{
+    QFETCH(QSize, size);
+    QFETCH(QPen, pen);
+    QFETCH(bool, antialiased);
+    QFETCH(qreal, ratio);
+    const QRect rect(QPoint(4, 5), size);
+    const auto paint = [&](const std::function<void(QPainter *)> &stroke) {
+        return Picture::of(
+            size + QSize(10, 10),
+            [&](QPainter *painter) {
+                painter->setRenderHint(QPainter::Antialiasing, antialiased);
+                painter->setPen(pen);
+                stroke(painter);
+            },
+            ratio);
+    };
+    const QImage expected = paint([&](QPainter *painter) { painter->drawRect(rect); });
+    const QImage image = paint([&](QPainter *painter) { PaintTools::strokeRect(painter, rect); });
+    constexpr int rounding = 2;
+    QCOMPARE(Picture::difference(image, expected, rounding), QString());
+}
+
+void tst_CommonControlStyle::passingPicturesLookLikePictures_data()
+{
+    QTest::addColumn<bool>("straight");
+    QTest::addColumn<qreal>("opacity");
+    QTest::addColumn<qreal>("scale");
+    QTest::newRow("straight") << true << 1.0 << 1.0;
+    QTest::newRow("faded") << false << 0.5 << 1.0; // parts must not show through each other
+    QTest::newRow("scaled") << false << 1.0 << 1.5;
+}
+
+void tst_CommonControlStyle::passingPicturesLookLikePictures()
+{
+    QFETCH(bool, straight);
+    QFETCH(qreal, opacity);
+    QFETCH(qreal, scale);
+    const QSize size(9, 7);
+    const QPoint place(3, 4);
+    const auto draw = [](QPainter *painter, const QRect &area) {
+        painter->fillRect(area, QBrush(Qt::blue, Qt::Dense4Pattern));
+        painter->fillRect(area.adjusted(2, 2, 0, 0), Qt::red);
+        painter->drawLine(1, 0, 8, 6); // not antialiased on a new picture
+    };
+    const auto paint = [&](const std::function<void(QPainter *)> &put) {
+        return Picture::of(
+            QSize(24, 24),
+            [&](QPainter *painter) {
+                painter->setRenderHint(QPainter::Antialiasing);
+                painter->setBrushOrigin(1, 0);
+                painter->setOpacity(opacity);
+                painter->scale(scale, scale);
+                const QTransform before = painter->worldTransform();
+                QCOMPARE(PaintTools::showsPixelsAsDrawn(painter), straight);
+                put(painter);
+                QCOMPARE(painter->worldTransform(), before);
+                QCOMPARE(painter->brushOrigin(), QPoint(1, 0));
+                QVERIFY(painter->testRenderHint(QPainter::Antialiasing));
+            });
+    };
+    const QImage expected =
+        paint([&](QPainter *painter) { painter->drawPixmap(place, PaintTools::newPicture(painter, size, draw)); });
+    const QImage image = paint([&](QPainter *painter) { PaintTools::drawPassingPicture(painter, place, size, draw); });
+    QCOMPARE(Picture::difference(image, expected), QString());
 }
 
 void tst_CommonControlStyle::gradientIsCachedByColoursAndSize()

@@ -71,6 +71,11 @@ QString provide(const QString &file)
     return QFile::copy(file, target) ? QStringLiteral("done") : QStringLiteral("failed");
 }
 
+QString replace(const QString &file, const QString &other)
+{
+    return QFile::remove(file) && QFile::rename(other, file) ? QStringLiteral("done") : QStringLiteral("failed");
+}
+
 QString answer(const QString &question, Arguments &arguments)
 {
     if (question == QLatin1String("color"))
@@ -91,6 +96,10 @@ QString answer(const QString &question, Arguments &arguments)
         return UIGGetIcon(arguments.text()).isNull() ? QStringLiteral("null") : QStringLiteral("icon");
     if (question == QLatin1String("localized"))
         return CUIGraphics::UIGetLocalizedPath(arguments.text());
+    if (question == QLatin1String("replace")) { // a file by another one
+        const QString file = arguments.text();
+        return replace(file, arguments.text());
+    }
     if (question == QLatin1String("provide"))
         return provide(arguments.text());
     return describe(fontFor(question, arguments));

@@ -119,6 +119,7 @@ private Q_SLOTS:
     void heldFonts();
     void filesOfTheLanguageComeFirst();
     void doubleResolution();
+    void changedFilesAreReadAgain();
     void localizedPath();
 };
 
@@ -434,6 +435,18 @@ void tst_UiGraphics::doubleResolution()
     deployment.addBitmap(QStringLiteral("Help.png"), QSize(10, 10));
     QCOMPARE(deployment.ask(words("pixmap Close.png 1 pixmap Close.png 2 pixmap Help.png 2")),
              words("10x10@1 20x20@2 10x10@1"));
+}
+
+void tst_UiGraphics::changedFilesAreReadAgain()
+{
+    const Deployment deployment;
+    deployment.addBitmap(QStringLiteral("Close.png"), QSize(10, 10));
+    deployment.addBitmap(QStringLiteral("other.png"), QSize(11, 10));
+    const QString file = deployment.graphics() + QStringLiteral("/Close.png");
+    const QString other = deployment.graphics() + QStringLiteral("/other.png");
+    QCOMPARE(deployment.ask(words("pixmap Close.png 1 pixmap Close.png 1 replace")
+                            << file << other << words("pixmap Close.png 1 pixmap other.png 1")),
+             words("10x10@1 10x10@1 done 11x10@1 null"));
 }
 
 void tst_UiGraphics::localizedPath()

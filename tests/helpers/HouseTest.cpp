@@ -87,13 +87,22 @@ QImage Picture::fromLetters(const char *letters, const Legend &legend, const QCo
     });
 }
 
-QString Picture::difference(const QImage &actual, const QImage &wanted)
+// Premultiplied: the colour of a pixel that is hardly there does not matter.
+static bool isNear(QRgb one, QRgb other, int tolerance)
+{
+    const QRgb a = qPremultiply(one);
+    const QRgb b = qPremultiply(other);
+    return qAbs(qAlpha(a) - qAlpha(b)) <= tolerance && qAbs(qRed(a) - qRed(b)) <= tolerance &&
+           qAbs(qGreen(a) - qGreen(b)) <= tolerance && qAbs(qBlue(a) - qBlue(b)) <= tolerance;
+}
+
+QString Picture::difference(const QImage &actual, const QImage &wanted, int tolerance)
 {
     if (actual.size() != wanted.size())
         return QStringLiteral("%1 by %2 pixels").arg(actual.width()).arg(actual.height());
     for (int y = 0; y < actual.height(); ++y) {
         for (int x = 0; x < actual.width(); ++x)
-            if (actual.pixel(x, y) != wanted.pixel(x, y))
+            if (!isNear(actual.pixel(x, y), wanted.pixel(x, y), tolerance))
                 return QStringLiteral("(%1, %2): %3 in place of %4")
                     .arg(x)
                     .arg(y)

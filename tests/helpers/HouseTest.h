@@ -91,8 +91,8 @@ using Legend = QMap<QChar, Layers>;
 /** The picture that rows of letters describe, over the ground. The first row begins behind a line break. */
 QImage fromLetters(const char *letters, const Legend &legend, const QColor &ground = Qt::transparent);
 
-/** Where two pictures differ first, and how; empty where they do not. */
-QString difference(const QImage &actual, const QImage &wanted);
+/** Where two pictures differ first by more than the tolerance in a channel, and how; empty where they do not. */
+QString difference(const QImage &actual, const QImage &wanted, int tolerance = 0);
 
 /** "#aarrggbb" at a point, for readable failures. */
 QString colorAt(const QImage &image, int x, int y);
