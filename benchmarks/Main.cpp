@@ -57,6 +57,10 @@ int main(int argc, char *argv[])
     qputenv("QT_LOGGING_RULES", "default.debug=false;default.warning=false"); // the platform's
     qputenv("QT_STYLE_OVERRIDE", "");
     QApplication application(argc, argv);
+    if (QCoreApplication::arguments().contains(registryStartOption)) {
+        QTextStream(stdout) << qint64(registryStartNanoseconds()) << Qt::endl;
+        return 0;
+    }
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Paints widgets and asks the look registry, each beside its peers. Ends with 1 when a promise is not kept."));
@@ -85,7 +89,7 @@ int main(int argc, char *argv[])
         return runAlone(comparisons, parser.value(aloneOption), rounds);
     for (Comparison &comparison : comparisons)
         takeTurns(comparison, rounds, sliceSeconds);
-    std::vector<Comparison> processes = firstPaint(std::max(1, rounds / processRoundsPerRound));
+    std::vector<Comparison> processes = wholeProcesses(std::max(1, rounds / processRoundsPerRound));
     keepWanted(processes, parser.value(onlyOption));
     std::move(processes.begin(), processes.end(), std::back_inserter(comparisons));
     if (parser.isSet(jsonOption))

@@ -1,4 +1,4 @@
-// Whole processes, one after the other in turn: zel_first_paint_house and zel_first_paint_qt.
+// Whole processes, one after the other in turn: zel_first_paint_house, zel_first_paint_qt, and this program itself.
 #include "Groups.h"
 
 #include <QCoreApplication>
@@ -13,16 +13,27 @@ struct Taken
 };
 
 // A process that fails gives zeros: the table shows them, and no ratio.
-Taken runOnce(const QString &program, const QString &style)
+Taken runOnce(const QString &program, const QString &argument)
 {
     QProcess process;
-    process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program, {style});
+    process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program, {argument});
     process.waitForFinished();
     const QList<QByteArray> figures = process.readAllStandardOutput().simplified().split(' ');
     return {figures.value(0).toDouble(), figures.value(1).toDouble()};
 }
 
-} // namespace
+Comparison registryStart(int rounds)
+{
+    Comparison start{QStringLiteral("start-up"),
+                     QStringLiteral("the look registry"),
+                     nanoseconds,
+                     {{QStringLiteral("ours"), {}, {}}},
+                     {}};
+    for (int round = 0; round < rounds; ++round)
+        start.contenders.front().samples.push_back(
+            runOnce(QStringLiteral("zel_bench"), registryStartOption).nanoseconds);
+    return start;
+}
 
 std::vector<Comparison> firstPaint(int rounds)
 {
@@ -44,4 +55,13 @@ std::vector<Comparison> firstPaint(int rounds)
         }
     }
     return {time, memory};
+}
+
+} // namespace
+
+std::vector<Comparison> wholeProcesses(int rounds)
+{
+    std::vector<Comparison> all = firstPaint(rounds);
+    all.push_back(registryStart(rounds));
+    return all;
 }
