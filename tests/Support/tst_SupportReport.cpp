@@ -135,9 +135,17 @@ void tst_SupportReport::tellsWhatWasReadAndMissed()
     QVERIFY(values(report, "bitmaps not found").contains(QStringLiteral("PushbuttonWhiteBlit.png")));
     QCOMPARE(value(report, "  not readable"), deployment.path(QStringLiteral("Broken.png")));
 
-    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>");
+    deployment.write(QStringLiteral("UIGraphics.xml"),
+                     "<a><Color Name='UIGCLR_WHITE'>#111111</Color><Color Name='UIGCLR_RED'>red</Color><Color "
+                     "Name='UIGCLR_RED'>222222</Color></a>");
     report = deployment.run(look).errors;
-    QVERIFY(value(report, "XML files read").endsWith(QLatin1String("0 colours, 0 fonts; empty, or not well-formed")));
+    QVERIFY2(value(report, "XML files read")
+                 .endsWith(QLatin1String("0 fonts; black, for want of a number: UIGCLR_WHITE \"#111111\"")),
+             qPrintable(report));
+
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>\n<b>\n</a>");
+    report = deployment.run(look).errors;
+    QVERIFY2(value(report, "XML files read").contains(QLatin1String(": without effect, line 3: ")), qPrintable(report));
 }
 
 void tst_SupportReport::tellsOfFonts()

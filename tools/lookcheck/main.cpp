@@ -3,6 +3,7 @@
 #include "ContrastCheck.h"
 #include "Findings.h"
 #include "FontCheck.h"
+#include "Languages.h"
 #include "Look.h"
 #include "Options.h"
 #include "Report.h"
@@ -45,10 +46,10 @@ void check(const lookcheck::Look &look, bool mayLackBitmaps, lookcheck::Findings
 
 int checkDirectory(const lookcheck::Options &options)
 {
+    lookcheck::Findings findings;
     QStringList languages{options.language};
     if (!options.hasLanguage)
-        languages += lookcheck::languagesOf(options.directory);
-    lookcheck::Findings findings;
+        languages += lookcheck::languagesOf(options.directory, &findings);
     for (const QString &language : languages)
         check(lookcheck::Look(options.directory, language), options.isPartial, &findings);
     if (options.isJson)
@@ -87,6 +88,8 @@ int main(int argc, char *argv[])
         return cannotRun(parsed.error);
     if (parsed.options.isHelpWanted)
         return showText(lookcheck::helpText());
+    if (parsed.options.areKeysWanted)
+        return showText(lookcheck::keysText());
     if (parsed.options.isVersionWanted)
         return showText(QStringLiteral("lookcheck " LOOKCHECK_VERSION "\n"));
     return parsed.options.sheetFile.isEmpty() ? checkDirectory(parsed.options) : writeSheet(parsed.options);
