@@ -15,6 +15,8 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <memory>
+
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -185,6 +187,7 @@ private Q_SLOTS:
     void tableIsTheArtwork();
     void tableKnowsWhatPaintersAskFor();
     void sheetShowsWhatDiffers();
+    void sheetOfSameLook();
     void sheetThatCannotBe();
 };
 
@@ -629,33 +632,105 @@ void tst_LookCheck::tableKnowsWhatPaintersAskFor()
 #endif
 }
 
+#ifdef GALLERY
+namespace {
+
+/** The page of --sheet. */
+struct SheetPage
+{
+    explicit SheetPage(const Deployment &deployment)
+    {
+        const QTemporaryDir directory;
+        QFile file(directory.filePath(QStringLiteral("sheet.html")));
+        run = std::make_unique<Run>(QStringList{QStringLiteral("--sheet"), file.fileName(), deployment.path()});
+        if (file.open(QIODevice::ReadOnly))
+            html = QString::fromUtf8(file.readAll());
+    }
+
+    /** The text of the page of the gallery up to what is unchanged there. */
+    QString changedOf(const QString &title) const
+    {
+        return html.section(QStringLiteral("\">%1 <small>").arg(title), 1, 1).section(QStringLiteral("<details"), 0, 0);
+    }
+
+    /** What a picture shows; its alternative text says which one it is. */
+    QImage picture(const QString &alternative) const
+    {
+        const QString start = QStringLiteral("alt=\"%1\" src=\"data:image/png;base64,").arg(alternative);
+        const QString data = html.section(start, 1, 1).section(QLatin1Char('"'), 0, 0);
+        return QImage::fromData(QByteArray::fromBase64(data.toLatin1()));
+    }
+
+    std::unique_ptr<Run> run;
+    QString html;
+};
+
+int pixelsOf(const QImage &image, const QColor &color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == color ? 1 : 0;
+    return count;
+}
+
+} // namespace
+#endif
+
 void tst_LookCheck::sheetShowsWhatDiffers()
 {
 #ifndef GALLERY
     QSKIP("Built without the gallery");
 #else
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_CE_HEADER", "00AA00"));
-    QImage box(deployment.path(QStringLiteral("CheckboxActive.png")));
-    box.fill(Qt::red);
-    QVERIFY(box.save(deployment.path(QStringLiteral("CheckboxActive.png"))));
-    const QTemporaryDir directory;
-    const QString page = directory.filePath(QStringLiteral("sheet.html"));
-    const Run run({QStringLiteral("--sheet"), page, deployment.path()});
-    QVERIFY2(run.status == 0, run.errors.constData());
-    QFile file(page);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString html = QString::fromUtf8(file.readAll());
+    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_PE_PANELTIPLABEL_GRAD1", "00AA00"));
+    for (const char *name : {"CheckboxActive.png", "RadiobuttonActive@2x.png"}) {
+        QImage box(deployment.path(QLatin1String(name)));
+        box.fill(Qt::red);
+        QVERIFY(box.save(deployment.path(QLatin1String(name))));
+    }
+    const SheetPage page(deployment);
+    QVERIFY2(page.run->status == 0, page.run->errors.constData());
 
-    const QString changed = html.section(QStringLiteral("<details>"), 0, 0);
-    const QString unchanged = html.section(QStringLiteral("<details>"), 1);
-    QVERIFY(changed.contains(QStringLiteral("alt=\"Checkboxes")) || changed.contains(QStringLiteral("alt=\"Check")));
-    QVERIFY(!changed.contains(QStringLiteral("alt=\"Sliders")));
-    QVERIFY(unchanged.contains(QStringLiteral("alt=\"Sliders")));
-    QCOMPARE(changed.count(QStringLiteral(", before\"")), changed.count(QStringLiteral(", after\"")));
+    const QString box = QStringLiteral("Check boxes, States, CCheckBoxEx: Normal, ");
+    QVERIFY(page.changedOf(QStringLiteral("Check boxes")).contains(box));
+    QCOMPARE(pixelsOf(page.picture(box + QStringLiteral("before")), Qt::red), 0);
+    QVERIFY(pixelsOf(page.picture(box + QStringLiteral("after")), Qt::red) > 100);
+    const QString tip = QStringLiteral("Standard widgets, Tool tips, One line, ");
+    const auto isGreen = [](const QColor &color) {
+        return color.green() > 2 * color.red() && color.green() > 2 * color.blue();
+    };
+    QVERIFY(!isGreen(page.picture(tip + QStringLiteral("before")).pixelColor(0, 0)));
+    QVERIFY(isGreen(page.picture(tip + QStringLiteral("after")).pixelColor(0, 0)));
+    const QString twin = QStringLiteral("Standard widgets, Buttons, QRadioButton: Normal, after");
+    QVERIFY(
+        page.changedOf(QStringLiteral("Standard widgets")).contains(QStringLiteral("Only on screens of high density")));
+    QVERIFY(pixelsOf(page.picture(twin), Qt::red) > 100);
+
+    QVERIFY(page.changedOf(QStringLiteral("Sliders")).isEmpty());
+    QVERIFY(page.html.contains(QStringLiteral(">Sliders</a> <small>unchanged<")));
+    QVERIFY(page.html.contains(QStringLiteral("alt=\"Sliders, ")));
+    QCOMPARE(page.html.count(QStringLiteral(", before\"")), page.html.count(QStringLiteral(", after\"")));
     // Nothing beside the page itself.
-    QCOMPARE(html.count(QStringLiteral("src=")), html.count(QStringLiteral("src=\"data:image/png;base64,iVBOR")));
-    QVERIFY(!html.contains(QStringLiteral("href=\"http")));
+    QCOMPARE(page.html.count(QStringLiteral("src=")),
+             page.html.count(QStringLiteral("src=\"data:image/png;base64,iVBOR")));
+    QVERIFY(!page.html.contains(QStringLiteral("href=\"http")));
+#endif
+}
+
+void tst_LookCheck::sheetOfSameLook()
+{
+#ifndef GALLERY
+    QSKIP("Built without the gallery");
+#else
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>\n<Color></a>");
+    const SheetPage page(deployment);
+    QCOMPARE(page.run->status, 1);
+    const QString fault = QStringLiteral("UIGraphics.xml:2: The file has no effect at all: ");
+    QVERIFY(page.html.contains(fault));
+    QVERIFY(page.run->errors.contains(fault.toUtf8()));
+    QVERIFY(page.html.contains(QStringLiteral(" specimens are drawn as in the built-in look.")));
 #endif
 }
 

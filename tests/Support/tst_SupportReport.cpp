@@ -85,6 +85,7 @@ class tst_SupportReport : public HouseTest
 
 private Q_SLOTS:
     void tellsWhatRuns();
+    void tellsQtThatRunsFromQtThatWasBuiltWith();
     void tellsWhatWasReadAndMissed();
     void tellsOfFonts();
     void tellsOfMissingDirectory();
@@ -114,6 +115,16 @@ void tst_SupportReport::tellsWhatRuns()
     QVERIFY2(bases.contains(values(report, "  base style").value(0)), qPrintable(report));
     QCOMPARE(value(report, "utility library"), QFileInfo(QStringLiteral(UTILITY_LIBRARY)).canonicalFilePath());
     QVERIFY(values(report, "environment").contains(QStringLiteral("ZEL_SUPPORT=1")));
+}
+
+void tst_SupportReport::tellsQtThatRunsFromQtThatWasBuiltWith()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("LD_PRELOAD"), QStringLiteral(OTHER_QT));
+    deployment.set(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
+    const QString report = deployment.run({QStringLiteral("none"), QStringLiteral("call")}).printed;
+    QCOMPARE(value(report, "Qt, running"), QStringLiteral("9.8.7"));
+    QCOMPARE(value(report, "Qt, built with"), QStringLiteral(QT_VERSION_STR));
 }
 
 void tst_SupportReport::tellsWhatWasReadAndMissed()

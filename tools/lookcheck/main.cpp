@@ -66,7 +66,12 @@ int writeSheet(const lookcheck::Options &options)
     if (!oversized.isEmpty())
         return cannotRun(QStringLiteral("'%1' is too large to be shown.").arg(oversized));
     const QString error = lookcheck::writeSheet(look, options.sheetFile, options.gallery);
-    return error.isEmpty() ? Clean : cannotRun(error);
+    if (!error.isEmpty())
+        return cannotRun(error);
+    const QStringList faults = lookcheck::faultsOfFiles(look);
+    for (const QString &fault : faults)
+        QTextStream(stderr) << QStringLiteral("lookcheck: %1\n").arg(fault);
+    return faults.isEmpty() ? Clean : Found;
 }
 
 int showText(const QString &text)
