@@ -254,7 +254,9 @@ void tst_LookCheck::xmlFaults_data()
     row("font in lower case", "<a>\n<font Name='UIGFONT_ARIAL'>Arial</font></a>", ":2 warning", "no element \"font\"");
     row("key as element", "<a>\n<UIGCLR_GLOW>8A2BE2</UIGCLR_GLOW></a>", ":2 warning", "<Color Name=\"UIGCLR_GLOW\">");
     row("another element with a key", "<a>\n<Entry Name='UIGCLR_GLOW'/></a>", ":2 warning", "no element \"Entry\"");
-    row("elements for order", "<Look><Colors><Color Name='UIGCLR_GLOW'>8A2BE2</Color></Colors><Meta>x</Meta></Look>",
+    row("elements for order",
+        "<UIGraphics><Colors Name='x'><Color "
+        "Name='UIGCLR_GLOW'>8A2BE2</Color></Colors><Fonts/><Meta>x</Meta></UIGraphics>",
         "", "Nothing found");
     row("Latin-1", "<a>\n<!-- x -->\n<!-- \xE4 -->\n</a>", ":3 error", "Save it as UTF-8");
     row("Latin-1, declared", "<?xml version='1.0' encoding='ISO-8859-1'?>\n<a>\n<!-- \xE4 --></a>", "",
@@ -544,7 +546,7 @@ void tst_LookCheck::hostileFiles_data()
     QTest::newRow("giant bitmap") << bitmap << QByteArray("\x89PNG") << qint64(100) * 1024 * 1024
                                   << QStringLiteral("larger than 16 megabytes. It was not checked.");
     QTest::newRow("drawing") << bitmap << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")
-                             << qint64(0) << QStringLiteral("This is an SVG drawing. Only where Qt has its SVG plugin");
+                             << qint64(0) << QStringLiteral("This is an SVG drawing. It is drawn only where Qt");
     QTest::newRow("directory's remedy") << xml + QStringLiteral("/x") << QByteArray("x") << qint64(0)
                                         << QStringLiteral("Put a file there");
     QTest::newRow("empty bitmap") << bitmap << QByteArray() << qint64(0) << QStringLiteral("is damaged");

@@ -119,7 +119,7 @@ private:
             return tell(Severity::Warning, QStringLiteral("It was not checked."),
                         QStringLiteral("Is it the right one?"));
         case BitmapFault::Drawing:
-            return tell(Severity::Warning, QStringLiteral("Only where Qt has its SVG plugin it is drawn."),
+            return tell(Severity::Warning, QStringLiteral("It is drawn only where Qt has its SVG plugin."),
                         QStringLiteral("Put a PNG file in its place."));
         }
     }

@@ -95,14 +95,16 @@ private:
     }
 
     // Elements of other names may stand for order, or for another program. These are meant for the library: one that is
-    // called nearly like ours and holds a value, one that names a key, one that is called like a key.
+    // called nearly like ours and has a name, one that names a key, one that is called like a key.
     void checkOther(const OtherElement &other)
     {
         const QString near = nearest(other.element, {QStringLiteral("Color"), QStringLiteral("Font")});
         const auto isLikeKey = [](const QString &text) {
-            return text.startsWith(QLatin1String("UIG"), Qt::CaseInsensitive);
+            return text.startsWith(QLatin1String("UIGCLR"), Qt::CaseInsensitive) ||
+                   text.startsWith(QLatin1String("UIGFONT"), Qt::CaseInsensitive);
         };
-        if (!isLikeKey(other.name) && !isLikeKey(other.element) && (near.isEmpty() || !other.isLeaf))
+        const bool isMisspelt = !near.isEmpty() && !other.name.isEmpty() && other.isLeaf;
+        if (!isLikeKey(other.name) && !isLikeKey(other.element) && !isMisspelt)
             return;
         const QString meant =
             isLikeKey(other.element)
