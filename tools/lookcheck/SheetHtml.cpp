@@ -224,6 +224,10 @@ private:
 
     void putUnchangedPages()
     {
+        const bool isEmpty = std::all_of(m_pages.cbegin(), m_pages.cend(),
+                                         [](const SheetPage &page) { return !page.changed.isEmpty(); });
+        if (isEmpty)
+            return;
         put("<section><h2>Unchanged pages</h2>\n");
         for (int i = 0; i < m_pages.size(); ++i)
             if (m_pages.at(i).changed.isEmpty())
