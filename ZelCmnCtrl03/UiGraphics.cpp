@@ -34,6 +34,21 @@ QString missingEntryPoints(bool hasGetLanguage, bool hasRetrievePath)
     return missing.join(QStringLiteral(", "));
 }
 
+QStringList badColors(const QVector<LookOverride> &colors, const QMap<QString, quint32> &held)
+{
+    constexpr int longestText = 40;
+    QMap<QString, QString> bad; // the last of a name counts
+    for (const LookOverride &color : colors) {
+        bool isNumber = false;
+        colorValue(color.text, &isNumber);
+        if (isNumber)
+            bad.remove(color.name);
+        else if (held.contains(color.name))
+            bad.insert(color.name, QStringLiteral("%1 \"%2\"").arg(color.name, color.text.left(longestText)));
+    }
+    return bad.values();
+}
+
 } // namespace
 
 bool CUIGraphics::initializeUIG()
@@ -135,7 +150,8 @@ void CUIGraphics::ReadUIGraphicsXml(const QString &path)
     ZEL_LOG_SCOPE_OF(zel::UiGraphics);
     ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::ReadUIGraphicsXml : ") + path);
     const LookOverrides overrides = readLookOverrides(path);
-    m_use.xmlRead.append(ReadXml{path, 0, 0, {}});
+    m_use.xmlRead.append(
+        ReadXml{path, 0, 0, {}, badColors(overrides.colors, m_colorMap), overrides.error, overrides.errorLine});
     m_use.xmlRead.last().colors = apply(
         overrides.colors, m_colorMap, [](const QString &text) { return colorValue(text); });
     m_use.xmlRead.last().families = apply(overrides.fonts, m_fontMap, [](const QString &text) { return text; });

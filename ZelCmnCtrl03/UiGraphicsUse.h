@@ -11,9 +11,12 @@
 struct ReadXml
 {
     QString path;
-    int colors = 0;      // that it has replaced
-    int families = 0;    // likewise
-    QStringList notAKey; // names that the registry does not know, as they were met
+    int colors = 0;        // that it has replaced
+    int families = 0;      // likewise
+    QStringList notAKey;   // names that the registry does not know, as they were met
+    QStringList notAColor; // "NAME is \"text\"" of colours that are black for want of a number
+    QString error;         // why nothing of it counts
+    int errorLine = 0;
 };
 
 /** One font that the registry hands out. */

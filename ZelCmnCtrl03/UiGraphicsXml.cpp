@@ -6,6 +6,9 @@
 
 namespace {
 
+constexpr int mostOthers = 1000;
+constexpr qint64 longestDeclaration = 200; // bytes; "<?xml ...?>" takes some 60
+
 class LookXmlReader
 {
 public:
@@ -37,6 +40,7 @@ private:
     LookOverrides failed() const
     {
         LookOverrides nothing;
+        nothing.fault = LookFileFault::NotWellFormed;
         nothing.error = m_xml.errorString();
         nothing.errorLine = line();
         return nothing;
@@ -47,9 +51,14 @@ private:
     void startElement()
     {
         ++m_depth;
+        if (m_isInOther)
+            m_overrides.others.last().isLeaf = false;
+        m_isInOther = false;
         QVector<LookOverride> *list = listFor(m_xml.qualifiedName().toString());
-        if (list == nullptr)
+        if (list == nullptr) {
+            addOther();
             return;
+        }
         const QXmlStreamAttributes attributes = m_xml.attributes();
         if (!attributes.hasAttribute(QStringLiteral("Name"))) {
             m_overrides.namelessLines.append(line());
@@ -65,6 +74,7 @@ private:
     {
         const bool isWanted = !m_open.isEmpty() && m_open.constLast().depth == m_depth;
         --m_depth;
+        m_isInOther = false;
         if (!isWanted)
             return;
         const OpenElement element = m_open.takeLast();
@@ -75,6 +85,18 @@ private:
             outer.hasMore = outer.hasMore || ended.hasMore;
         }
         ended.text = ended.text.trimmed();
+    }
+
+    void addOther()
+    {
+        if (m_overrides.others.size() >= mostOthers)
+            return;
+        OtherElement other{m_xml.qualifiedName().toString(), QString(), line(), true};
+        for (const QXmlStreamAttribute &attribute : m_xml.attributes())
+            if (attribute.name().compare(QLatin1String("Name"), Qt::CaseInsensitive) == 0)
+                other.name = attribute.value().toString();
+        m_overrides.others.append(other);
+        m_isInOther = true;
     }
 
     void addText()
@@ -110,7 +132,47 @@ private:
     QVector<OpenElement> m_open;
     LookOverrides m_overrides;
     int m_depth = 0;
+    bool m_isInOther = false; // directly in the last of the other elements
 };
+
+// Qt tells of a wrong letter where it began to read the piece that holds it, which is the first line as a rule.
+int lineOfBadUtf8(QIODevice *device)
+{
+    constexpr qint64 longestLine = qint64(1024) * 1024; // what is longer is left to Qt's own telling
+    constexpr char replacement[] = "\xEF\xBF\xBD";
+    device->seek(0);
+    for (int line = 1; !device->atEnd(); ++line) {
+        const QByteArray bytes = device->readLine(longestLine);
+        if (bytes.size() >= longestLine - 1)
+            return 0;
+        if (!bytes.contains(replacement) && QString::fromUtf8(bytes).contains(QChar::ReplacementCharacter))
+            return line;
+    }
+    return 0;
+}
+
+// A file in another encoding fails as one that is not well-formed; its author sees a well-formed one.
+LookOverrides withEncodingTold(LookOverrides overrides, QIODevice *device)
+{
+    device->seek(0);
+    const QByteArray declaration = device->read(longestDeclaration);
+    const bool isUtf8 = !declaration.contains("encoding") && !declaration.contains('\0');
+    const int line = isUtf8 ? lineOfBadUtf8(device) : 0;
+    if (line == 0)
+        return overrides;
+    overrides.fault = LookFileFault::Encoding;
+    overrides.error = QStringLiteral("A letter is not in UTF-8, and the file declares no other encoding.");
+    overrides.errorLine = line;
+    return overrides;
+}
+
+LookOverrides unreadable(const QString &error)
+{
+    LookOverrides nothing;
+    nothing.fault = LookFileFault::Unreadable;
+    nothing.error = error;
+    return nothing;
+}
 
 } // namespace
 
@@ -118,10 +180,10 @@ LookOverrides readLookOverrides(const QString &path)
 {
     // Only a file: opening a pipe would wait for its writer.
     QFile file(path);
-    LookOverrides nothing;
     if (!QFileInfo(path).isFile())
-        nothing.error = QStringLiteral("This is no file.");
-    else if (!file.open(QIODevice::ReadOnly))
-        nothing.error = file.errorString();
-    return nothing.error.isEmpty() ? LookXmlReader(&file).read() : nothing;
+        return unreadable(QStringLiteral("This is no file."));
+    if (!file.open(QIODevice::ReadOnly))
+        return unreadable(file.errorString());
+    const LookOverrides overrides = LookXmlReader(&file).read();
+    return overrides.fault == LookFileFault::None ? overrides : withEncodingTold(overrides, &file);
 }

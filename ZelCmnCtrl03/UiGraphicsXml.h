@@ -19,14 +19,34 @@ struct LookOverride
     bool hasMore = false; // the text was longer than counts
 };
 
+/** An element of another kind, which means nothing to the look. It may be a Color that somebody wrote wrongly. */
+struct OtherElement
+{
+    QString element;
+    QString name; // what its attribute says that is called Name, in whatever case
+    int line = 0;
+    bool isLeaf = true; // without elements below it
+};
+
+/** Why a file gives nothing. */
+enum class LookFileFault
+{
+    None,
+    Unreadable, // no file, or not for this user
+    Encoding,   // letters beyond ASCII that are not UTF-8, and no encoding declared
+    NotWellFormed
+};
+
 /** The elements of one file, each kind in document order. */
 struct LookOverrides
 {
     QVector<LookOverride> colors;
     QVector<LookOverride> fonts;
-    QVector<int> namelessLines; // of the Color and Font elements that are left out
-    QString error;              // why the file gives nothing, in the words of the reader; empty for a good one
-    int errorLine = 0;          // 0 when it is no matter of a line
+    QVector<OtherElement> others; // the first thousand
+    QVector<int> namelessLines;   // of the Color and Font elements that are left out
+    LookFileFault fault = LookFileFault::None;
+    QString error;     // the fault in words, for people; empty for a good file
+    int errorLine = 0; // 0 when it is no matter of a line
 };
 
 /**

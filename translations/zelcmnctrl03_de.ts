@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>m_tr_Abort</source>
-        <translation>Beenden</translation>
+        <translation>Vorgang abbrechen</translation>
     </message>
     <message>
         <source>m_tr_Retry</source>
@@ -64,11 +64,11 @@
     </message>
     <message>
         <source>m_tr_YestoAll</source>
-        <translation>Ja, alle</translation>
+        <translation>Ja für alle</translation>
     </message>
     <message>
         <source>m_tr_NotoAll</source>
-        <translation>Nein, keine</translation>
+        <translation>Nein für alle</translation>
     </message>
 </context>
 <context>

@@ -94,7 +94,7 @@
     <name>CZoomSlider</name>
     <message>
         <source>Smaller</source>
-        <translation>הקטן</translation>
+        <translation>הקטן תצוגה</translation>
     </message>
     <message>
         <source>Zoom</source>

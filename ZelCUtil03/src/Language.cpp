@@ -42,4 +42,10 @@ std::string languageTag(std::string_view localeName)
     return language == "pt" && rest == "br" ? "pt-br" : language;
 }
 
+std::string tagOfSetting(std::string_view given)
+{
+    const bool isLocale = given.find_first_of("_.@") != std::string_view::npos;
+    return isLocale ? languageTag(given) : std::string(given);
+}
+
 } // namespace zelcutil

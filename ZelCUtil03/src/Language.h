@@ -12,4 +12,7 @@ namespace zelcutil {
  */
 std::string languageTag(std::string_view localeName);
 
+/** What a setting means: a tag as it stands; who copied the name of a locale, ja_JP.UTF-8, means the tag for it. */
+std::string tagOfSetting(std::string_view given);
+
 } // namespace zelcutil

@@ -17,19 +17,13 @@ namespace {
 using zelcutil::Settings;
 namespace platform = zelcutil::platform;
 
-// Tags are taken as they stand. Who copies the name of a locale, ja_JP.UTF-8, means the tag for it.
-std::string tagOf(const std::string &given)
-{
-    return given.find_first_of("_.@") == std::string::npos ? given : zelcutil::languageTag(given);
-}
-
 std::string decideLanguage(const Settings &settings)
 {
     const std::string fromEnvironment = platform::environmentValue("ZEL_LANGUAGE");
     if (!fromEnvironment.empty())
-        return tagOf(fromEnvironment);
+        return zelcutil::tagOfSetting(fromEnvironment);
     const std::string configured = settings.value("Installation", "Language");
-    return configured.empty() ? zelcutil::languageTag(platform::messageLocale()) : tagOf(configured);
+    return configured.empty() ? zelcutil::languageTag(platform::messageLocale()) : zelcutil::tagOfSetting(configured);
 }
 
 std::string installedArtwork()

@@ -55,8 +55,12 @@ bool isBlank(const QString &text)
 }
 
 // The icon stands beside the first line of a text at the top, and beside the last one of a text at the bottom.
-QHBoxLayout *makeHelpRow(QWidget *icon, QWidget *text, Qt::Alignment alignment)
+QHBoxLayout *makeHelpRow(QLabel *icon, QLabel *text, Qt::Alignment alignment)
 {
+    // As high as a line of this text, so that the picture stands in its middle. Letters that another font lends, as
+    // those of Chinese, make a line higher than the font says.
+    icon->setMinimumHeight(text->fontMetrics().boundingRect(text->text()).height());
+    icon->setAlignment(Qt::AlignCenter);
     auto *row = new QHBoxLayout;
     row->setSpacing(helpSpacing);
     row->addWidget(icon, 0, alignment);

@@ -2,11 +2,11 @@
 
 #include "Platform/Platform.h"
 #include "UiGraphics.h"
+#include "UiGraphicsLanguage.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFontInfo>
 #include <QProcessEnvironment>
 #include <QProxyStyle>
 #include <QScreen>
@@ -147,10 +147,15 @@ void addUtilityLibrary(Lines &lines, const LookUse &use)
 
 QString describe(const ReadXml &xml)
 {
+    const QString line = xml.errorLine > 0 ? QStringLiteral(", line %1").arg(xml.errorLine) : QString();
+    if (!xml.error.isEmpty())
+        return QStringLiteral("%1: without effect%2: %3").arg(xml.path, line, xml.error);
     QString text = QStringLiteral("%1: %2 colours, %3 fonts").arg(xml.path).arg(xml.colors).arg(xml.families);
     if (!xml.notAKey.isEmpty())
-        return text + QStringLiteral("; no keys: ") + xml.notAKey.join(QStringLiteral(", "));
-    return xml.colors + xml.families > 0 ? text : text + QStringLiteral("; empty, or not well-formed");
+        text += QStringLiteral("; no keys: ") + xml.notAKey.join(QStringLiteral(", "));
+    if (!xml.notAColor.isEmpty())
+        text += QStringLiteral("; black, for want of a number: ") + xml.notAColor.join(QStringLiteral(", "));
+    return text;
 }
 
 void addXml(Lines &lines, const LookUse &use)
@@ -165,13 +170,14 @@ void addXml(Lines &lines, const LookUse &use)
     lines.add(QStringLiteral("  not there"), absent);
 }
 
-QString describe(const HeldFont &held)
+QString describe(const HeldFont &held, const QString &language)
 {
     const QString wanted = held.font.family();
-    const QString found = QFontInfo(held.font).family();
-    if (wanted.compare(found, Qt::CaseInsensitive) == 0)
-        return QStringLiteral("%1: \"%2\"").arg(held.purpose, found);
-    return QStringLiteral("%1: \"%2\" asked for, \"%3\" in its place").arg(held.purpose, wanted, found);
+    const QStringList shown = shownFamilies(held.font, language);
+    if (shown.size() == 1 && wanted.compare(shown.constFirst(), Qt::CaseInsensitive) == 0)
+        return QStringLiteral("%1: \"%2\"").arg(held.purpose, shown.constFirst());
+    return QStringLiteral("%1: \"%2\" asked for, \"%3\" in its place")
+        .arg(held.purpose, wanted, shown.join(QStringLiteral("\" and \"")));
 }
 
 void addFonts(Lines &lines, const LookUse &use)
@@ -181,7 +187,7 @@ void addFonts(Lines &lines, const LookUse &use)
         return;
     QStringList fonts;
     std::transform(use.fonts.begin(), use.fonts.end(), std::back_inserter(fonts),
-                   [](const HeldFont &held) { return describe(held); });
+                   [&use](const HeldFont &held) { return describe(held, use.language); });
     lines.add(QStringLiteral("fonts"), fonts);
     const bool isNoFont = !use.privateFont.isEmpty() && !use.isPrivateFontRegistered;
     lines.add(QStringLiteral("  private font"),

@@ -41,8 +41,8 @@ void declareOptions(QCommandLineParser *parser)
         {pageName, QStringLiteral("The page to save, or to show first. Pages: %1.").arg(knownPages()),
          QStringLiteral("NAME")},
         {languageName,
-         QStringLiteral(
-             "Language of texts and fonts, such as de or zh-chs (ZEL_LANGUAGE). The direction is --right-to-left's."),
+         QStringLiteral("Language of texts and fonts, such as de or zh-chs (ZEL_LANGUAGE). Hebrew lays out from right "
+                        "to left."),
          QStringLiteral("TAG")},
         {graphicsName, QStringLiteral("Directory of the artwork (ZEL_GRAPHICS_DIR)."), dir},
         {scaleName, QStringLiteral("Screen pixels per pixel, such as 1.5 or 2 (QT_SCALE_FACTOR)."),
@@ -93,7 +93,7 @@ QStringList GalleryOptions::windowArguments() const
     QStringList arguments;
     if (!pageName.isEmpty())
         arguments << QStringLiteral("--%1").arg(gallery::pageName) << pageName;
-    if (isRightToLeft)
+    if (isRightToLeft && !isLanguageRightToLeft) // another language has its own direction
         arguments << QStringLiteral("--%1").arg(rightToLeftName);
     if (isDisabled)
         arguments << QStringLiteral("--%1").arg(disabledName);

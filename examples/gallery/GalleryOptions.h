@@ -15,6 +15,7 @@ struct GalleryOptions
     QString graphicsDirectory; // empty: likewise
     QString scale;
     bool isRightToLeft = false;
+    bool isLanguageRightToLeft = false; // known when the library has started
     bool isDisabled = false;
     bool isForeign = false;
 

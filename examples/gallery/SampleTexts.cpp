@@ -43,6 +43,95 @@ const std::vector<SampleTexts> all = {
       QStringLiteral("Abbrechen"),
       QStringLiteral("Druckt alle ausgewählten Fotos in der Größe und auf dem Papier, die hier gewählt sind, "
                      "sobald der Auftrag im Geschäft eingetroffen ist.")}},
+    {QStringLiteral("fr"),
+     QStringLiteral("Français"),
+     QStringLiteral("Imprimer"),
+     QStringLiteral("Imprimer toutes les photos sélectionnées"),
+     QStringLiteral("Photos"),
+     QStringLiteral("Ouvrir"),
+     QStringLiteral("Supprimer"),
+     QStringLiteral("Partager"),
+     QStringLiteral("E-mail"),
+     QStringLiteral("Dossier"),
+     QStringLiteral("Afficher les détails"),
+     {QStringLiteral("Client"), QStringLiteral("Nom"), QStringLiteral("Marie Dupont"), QStringLiteral("Exemplaires"),
+      QStringLiteral("Format"), QStringLiteral("Papier"), QStringLiteral("Brillant"), QStringLiteral("Mat"),
+      QStringLiteral("Bordure blanche"), QStringLiteral("Date"), QStringLiteral("Livraison"),
+      QStringLiteral("Par courrier"), QStringLiteral("Retrait en magasin"), QStringLiteral("Remarque"),
+      QStringLiteral("Options"), QStringLiteral("Annuler"),
+      QStringLiteral("Imprime toutes les photos sélectionnées, au format et sur le papier choisis ici, dès que la "
+                     "commande est arrivée au magasin.")}},
+    {QStringLiteral("es"),
+     QStringLiteral("Español"),
+     QStringLiteral("Imprimir"),
+     QStringLiteral("Imprimir todas las fotos seleccionadas"),
+     QStringLiteral("Fotos"),
+     QStringLiteral("Abrir"),
+     QStringLiteral("Eliminar"),
+     QStringLiteral("Compartir"),
+     QStringLiteral("Correo"),
+     QStringLiteral("Carpeta"),
+     QStringLiteral("Mostrar detalles"),
+     {QStringLiteral("Cliente"), QStringLiteral("Nombre"), QStringLiteral("María García"), QStringLiteral("Copias"),
+      QStringLiteral("Tamaño"), QStringLiteral("Papel"), QStringLiteral("Brillante"), QStringLiteral("Mate"),
+      QStringLiteral("Borde blanco"), QStringLiteral("Fecha"), QStringLiteral("Entrega"), QStringLiteral("Por correo"),
+      QStringLiteral("Recogida en tienda"), QStringLiteral("Nota"), QStringLiteral("Opciones"),
+      QStringLiteral("Cancelar"),
+      QStringLiteral("Imprime todas las fotos seleccionadas, en el tamaño y el papel elegidos aquí, en cuanto el "
+                     "pedido llega a la tienda.")}},
+    {QStringLiteral("it"),
+     QStringLiteral("Italiano"),
+     QStringLiteral("Stampa"),
+     QStringLiteral("Stampa tutte le foto selezionate"),
+     QStringLiteral("Foto"),
+     QStringLiteral("Apri"),
+     QStringLiteral("Elimina"),
+     QStringLiteral("Condividi"),
+     QStringLiteral("E-mail"),
+     QStringLiteral("Cartella"),
+     QStringLiteral("Mostra dettagli"),
+     {QStringLiteral("Cliente"), QStringLiteral("Nome"), QStringLiteral("Maria Rossi"), QStringLiteral("Copie"),
+      QStringLiteral("Formato"), QStringLiteral("Carta"), QStringLiteral("Lucida"), QStringLiteral("Opaca"),
+      QStringLiteral("Bordo bianco"), QStringLiteral("Data"), QStringLiteral("Consegna"), QStringLiteral("Per posta"),
+      QStringLiteral("Ritiro in negozio"), QStringLiteral("Nota"), QStringLiteral("Opzioni"), QStringLiteral("Annulla"),
+      QStringLiteral("Stampa tutte le foto selezionate, nel formato e sulla carta scelti qui, appena l’ordine arriva "
+                     "in negozio.")}},
+    {QStringLiteral("pt-br"),
+     QStringLiteral("Português (Brasil)"),
+     QStringLiteral("Imprimir"),
+     QStringLiteral("Imprimir todas as fotos selecionadas"),
+     QStringLiteral("Fotos"),
+     QStringLiteral("Abrir"),
+     QStringLiteral("Excluir"),
+     QStringLiteral("Compartilhar"),
+     QStringLiteral("E-mail"),
+     QStringLiteral("Pasta"),
+     QStringLiteral("Mostrar detalhes"),
+     {QStringLiteral("Cliente"), QStringLiteral("Nome"), QStringLiteral("Maria Silva"), QStringLiteral("Cópias"),
+      QStringLiteral("Tamanho"), QStringLiteral("Papel"), QStringLiteral("Brilhante"), QStringLiteral("Fosco"),
+      QStringLiteral("Borda branca"), QStringLiteral("Data"), QStringLiteral("Entrega"), QStringLiteral("Pelo correio"),
+      QStringLiteral("Retirada na loja"), QStringLiteral("Observação"), QStringLiteral("Opções"),
+      QStringLiteral("Cancelar"),
+      QStringLiteral("Imprime todas as fotos selecionadas, no tamanho e no papel escolhidos aqui, assim que o pedido "
+                     "chega à loja.")}},
+    {QStringLiteral("hu"),
+     QStringLiteral("Magyar"),
+     QStringLiteral("Nyomtatás"),
+     QStringLiteral("Az összes kijelölt fénykép nyomtatása"),
+     QStringLiteral("Fényképek"),
+     QStringLiteral("Megnyitás"),
+     QStringLiteral("Törlés"),
+     QStringLiteral("Megosztás"),
+     QStringLiteral("E-mail"),
+     QStringLiteral("Mappa"),
+     QStringLiteral("Részletek megjelenítése"),
+     {QStringLiteral("Ügyfél"), QStringLiteral("Név"), QStringLiteral("Kovács Mária"), QStringLiteral("Példányszám"),
+      QStringLiteral("Méret"), QStringLiteral("Papír"), QStringLiteral("Fényes"), QStringLiteral("Matt"),
+      QStringLiteral("Fehér szegély"), QStringLiteral("Dátum"), QStringLiteral("Szállítás"), QStringLiteral("Postán"),
+      QStringLiteral("Átvétel az üzletben"), QStringLiteral("Megjegyzés"), QStringLiteral("Beállítások"),
+      QStringLiteral("Mégse"),
+      QStringLiteral("Kinyomtatja az összes kijelölt fényképet az itt választott méretben és papírra, amint a rendelés "
+                     "megérkezik az üzletbe.")}},
     {QStringLiteral("ja"),
      QStringLiteral("日本語"),
      QStringLiteral("印刷"),
@@ -188,9 +277,20 @@ const std::vector<SampleTexts> &allSampleTexts()
 
 const SampleTexts &sampleTexts(const QString &tag)
 {
-    const auto found =
-        std::find_if(all.begin(), all.end(), [&tag](const SampleTexts &texts) { return texts.tag == tag; });
-    return found != all.end() ? *found : all.front();
+    // As the library has it, two tags have a second name. Who has a country of its own, de-at, reads the language's.
+    const QString wanted = tag == QLatin1String("zh-cn")   ? QStringLiteral("zh-chs")
+                           : tag == QLatin1String("zh-tw") ? QStringLiteral("zh-cht")
+                                                           : tag;
+    const QString language = wanted.section(QLatin1Char('-'), 0, 0);
+    const auto find = [](const QString &text, const QString &start) {
+        return std::find_if(all.begin(), all.end(), [&](const SampleTexts &texts) {
+            return texts.tag == text || (!start.isEmpty() && texts.tag.startsWith(start + QLatin1Char('-')));
+        });
+    };
+    for (const auto found : {find(wanted, QString()), find(language, language)})
+        if (found != all.end())
+            return *found;
+    return all.front();
 }
 
 } // namespace gallery

@@ -47,7 +47,7 @@ struct SampleTexts
 
 const std::vector<SampleTexts> &allSampleTexts();
 
-/** The texts of a language tag such as "zh-chs"; English for an unknown or empty one. */
+/** The texts of a language tag such as "zh-chs"; one of another country is better than English. */
 const SampleTexts &sampleTexts(const QString &tag);
 
 } // namespace gallery

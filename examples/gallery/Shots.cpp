@@ -6,7 +6,11 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QImageWriter>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLayout>
 #include <QTextStream>
 #include <QTimer>
@@ -90,6 +94,26 @@ bool save(const QPixmap &pixmap, const QString &directory, const QString &name)
     return true;
 }
 
+QJsonObject entry(const PageDescription &page, const SpecimenGroup &group, const Specimen &specimen)
+{
+    return {
+        {QStringLiteral("name"), fileName(page, group, specimen)},
+        {QStringLiteral("page"), page.title},
+        {QStringLiteral("group"), group.heading},
+        {QStringLiteral("row"), specimen.row},
+        {QStringLiteral("column"), specimen.column},
+    };
+}
+
+bool saveList(const QJsonArray &entries, const QString &directory)
+{
+    QFile file(QDir(directory).filePath(QStringLiteral("pictures.json")));
+    if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(entries).toJson()) > 0 && file.flush())
+        return true;
+    printError(QStringLiteral("Cannot write %1: %2").arg(file.fileName(), file.errorString()));
+    return false;
+}
+
 bool makeDirectory(const QString &directory)
 {
     if (QDir().mkpath(directory))
@@ -135,14 +159,17 @@ int saveSpecimens(const std::vector<PageDescription> &pages, const MakerSettings
 {
     if (!makeDirectory(directory))
         return 1;
+    QJsonArray entries;
     for (const PageDescription &page : pages) {
         for (const SpecimenGroup &group : page.groups) {
-            for (const Specimen &specimen : group.specimens)
+            for (const Specimen &specimen : group.specimens) {
                 if (!save(picture(specimen, settings), directory, fileName(page, group, specimen)))
                     return 1;
+                entries.append(entry(page, group, specimen));
+            }
         }
     }
-    return 0;
+    return saveList(entries, directory) ? 0 : 1;
 }
 
 } // namespace gallery

@@ -4,6 +4,7 @@
 #include "pages/Pages.h"
 
 #include <ZelCmnCtrl03/CC4StyleFactory>
+#include <ZelCmnCtrl03/InterfaceLocale>
 
 #include <ZelCUtil03/ZelCUtil.h>
 
@@ -45,23 +46,12 @@ void setFontSize()
     QApplication::setFont(font);
 }
 
-// Of a language tag as the library has them.
-QLocale localeOf(const QString &tag)
-{
-    if (tag == QLatin1String("zh-chs"))
-        return QLocale(QStringLiteral("zh_CN"));
-    if (tag == QLatin1String("zh-cht"))
-        return QLocale(QStringLiteral("zh_TW"));
-    return QLocale(tag);
-}
-
 // The library's own texts, such as those of the buttons of message boxes; English where there is no better catalogue.
 void loadTexts(QTranslator *translator)
 {
     const QString directory =
         QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zelcmnctrl03/translations");
-    if (!translator->load(localeOf(QString::fromUtf16(GetLanguage())), QStringLiteral("zelcmnctrl03"),
-                          QStringLiteral("_"), directory) &&
+    if (!translator->load(zel::interfaceLocale(), QStringLiteral("zelcmnctrl03"), QStringLiteral("_"), directory) &&
         !translator->load(QStringLiteral("zelcmnctrl03_en"), directory))
         QTextStream(stderr) << QStringLiteral("zel_gallery: no texts in %1\n").arg(directory);
 }
@@ -107,7 +97,7 @@ int main(int argc, char *argv[])
         return wrongArguments;
     }
 
-    const gallery::GalleryOptions &options = parsed.options;
+    gallery::GalleryOptions options = parsed.options;
     gallery::applyToEnvironment(options);
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -118,6 +108,8 @@ int main(int argc, char *argv[])
     QCoreApplication::installTranslator(&texts);
     const HouseStyle houseStyle;
     setFontSize();
+    options.isLanguageRightToLeft = zel::interfaceLocale().textDirection() == Qt::RightToLeft;
+    options.isRightToLeft = options.isRightToLeft || options.isLanguageRightToLeft;
     if (options.isRightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
     if (options.takesPictures())

@@ -1,5 +1,6 @@
 #include <ZelCmnCtrl03/CButtonEx>
 #include <ZelCmnCtrl03/CMessageBoxEx>
+#include <ZelCmnCtrl03/InterfaceLocale>
 
 #include <QApplication>
 #include <QTranslator>
@@ -11,7 +12,8 @@ int main(int argc, char *argv[])
     // The texts of the library, such as "OK": those of the user's language, or English.
     QTranslator texts;
     const QString directory = QCoreApplication::applicationDirPath() + "/../share/zelcmnctrl03/translations";
-    if (!texts.load(QLocale(), "zelcmnctrl03", "_", directory) && !texts.load("zelcmnctrl03_en", directory))
+    if (!texts.load(zel::interfaceLocale(), "zelcmnctrl03", "_", directory) &&
+        !texts.load("zelcmnctrl03_en", directory))
         qWarning("No texts in %s", qPrintable(directory));
     QCoreApplication::installTranslator(&texts);
 

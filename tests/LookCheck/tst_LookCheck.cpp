@@ -1,7 +1,10 @@
 // lookcheck as a program: what it says of directories that are good, faulty and hostile.
 #include "helpers/HouseTest.h"
 
+#include "ContrastPairs.h"
 #include "UiGraphicsBitmaps.h"
+#include "UiGraphicsColors.h"
+#include "UiGraphicsFonts.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +14,8 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <memory>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -164,6 +169,13 @@ private Q_SLOTS:
     void bitmapFaults();
     void privateFont();
     void languageFolderHoldsWhatDiffers();
+    void namesThatLibraryPassesOver();
+    void linksToNowhere();
+    void languageTags_data();
+    void languageTags();
+    void contrastIsToldOnce();
+    void contrastPairsNameKeys();
+    void keysAreListed();
     void partialDirectoryMayLackBitmaps();
     void contrastOfBitmaps();
     void textReportSaysWhereAndWhat();
@@ -175,6 +187,7 @@ private Q_SLOTS:
     void tableIsTheArtwork();
     void tableKnowsWhatPaintersAskFor();
     void sheetShowsWhatDiffers();
+    void sheetOfSameLook();
     void sheetThatCannotBe();
 };
 
@@ -224,24 +237,44 @@ void tst_LookCheck::tenFaultsAreTenFindings()
 void tst_LookCheck::xmlFaults_data()
 {
     QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<QString>("finding"); // after the file's name; empty for none
+    QTest::addColumn<QString>("finding"); // after the file's name, several with commas; empty for none
     QTest::addColumn<QString>("said");
     const auto row = [](const char *name, const QByteArray &xml, const char *finding, const char *said) {
         QTest::newRow(name) << xml << QString::fromLatin1(finding) << QString::fromLatin1(said);
     };
     row("good", colorXml("UIGCLR_GLOW", "8A2BE2"), "", "Nothing found");
     row("good, with alpha", colorXml("UIGCLR_GLOW", "FF8A2BE2"), "", "Nothing found");
+    row("alpha at the end", colorXml("UIGCLR_GLOW", "8A2BE2FF"), ":2 warning",
+        "If it is meant as RRGGBBAA, write 8A2BE2");
+    row("another alpha", colorXml("UIGCLR_GLOW", "808A2BE2"), "", "Nothing found");
+    row("element in lower case", "<a>\n<color Name='UIGCLR_GLOW'>8A2BE2</color></a>", ":2 warning",
+        "no element \"color\"");
+    row("British element", "<a>\n<Colour name='UIGCLR_GLOW'>8A2BE2</Colour></a>", ":2 warning",
+        "no element \"Colour\"");
+    row("font in lower case", "<a>\n<font Name='UIGFONT_ARIAL'>Arial</font></a>", ":2 warning", "no element \"font\"");
+    row("key as element", "<a>\n<UIGCLR_GLOW>8A2BE2</UIGCLR_GLOW></a>", ":2 warning", "<Color Name=\"UIGCLR_GLOW\">");
+    row("another element with a key", "<a>\n<Entry Name='UIGCLR_GLOW'/></a>", ":2 warning", "no element \"Entry\"");
+    row("elements for order",
+        "<UIGraphics><Colors Name='x'><Color "
+        "Name='UIGCLR_GLOW'>8A2BE2</Color></Colors><Fonts/><Meta>x</Meta></UIGraphics>",
+        "", "Nothing found");
+    row("Latin-1", "<a>\n<!-- x -->\n<!-- \xE4 -->\n</a>", ":3 error", "Save it as UTF-8");
+    row("Latin-1, declared", "<?xml version='1.0' encoding='ISO-8859-1'?>\n<a>\n<!-- \xE4 --></a>", "",
+        "Nothing found");
     row("unknown key", colorXml("UIGCLR_GLOV", "8A2BE2"), ":2 warning", "nearest key is UIGCLR_GLOW.");
     row("key in lower case", colorXml("uigclr_glow", "8A2BE2"), ":2 warning", "nearest key is UIGCLR_GLOW.");
-    row("key far from any", colorXml("Ceiling", "8A2BE2"), ":2 warning", "see the list of keys");
+    row("key far from any", colorXml("Ceiling", "8A2BE2"), ":2 warning", "lookcheck --keys");
     row("key of the other kind", colorXml("UIGFONT_ARIAL", "8A2BE2"), ":2 warning", "no key of a Color");
     row("leading #", colorXml("UIGCLR_GLOW", "#8A2BE2"), ":2 error", "begins with a #");
     row("no number", colorXml("UIGCLR_GLOW", "purple"), ":2 error", "no hexadecimal number");
     row("too long", colorXml("UIGCLR_GLOW", "8A2BE28A2BE2"), ":2 error", "too long");
-    row("too short", colorXml("UIGCLR_GLOW", "F0F"), ":2 warning", "gives the colour #000f0f");
+    row("a function", colorXml("UIGCLR_GLOW", "rgb(1,2,3)"), ":2 error", "is no hexadecimal number and gives black");
+    row("overridden", "<a>\n<Color Name='UIGCLR_GLOW'>red</Color><Color Name='UIGCLR_GLOW'>8A2BE2</Color></a>",
+        ":2 error,:2 warning", "is no hexadecimal number.\n");
+    row("too short", colorXml("UIGCLR_GLOW", "F0F"), ":2 warning", "gives the colour #000F0F");
     row("empty", colorXml("UIGCLR_GLOW", " "), ":2 error", "no text");
     row("black ground, told once", colorXml("UIGCLR_PALETTE_ACTIVE_BASE", "#FFFFFF"), ":2 error", "1 error, 0 warn");
-    row("black ground", colorXml("UIGCLR_PALETTE_ACTIVE_BASE", "111111"), ":2 warning", "lists and text fields (");
+    row("black ground", colorXml("UIGCLR_PALETTE_ACTIVE_BASE", "111111"), ":2 warning", "lists and text areas (");
     row("grey between the ends", "<a>\n<Color Name='UIGCLR_RECTGRAD1'>000000</Color></a>", ":2 warning",
         "tabs (UIGCLR_PALETTE_ACTIVE_FOREGROUND on UIGCLR_RECTGRAD1 to UIGCLR_RECTGRAD2, 1.0 to 1)");
     row("weak as built in", colorXml("UIGCLR_IMPUI_BLUTITLE", "3399CC"), "", "Nothing found");
@@ -260,8 +293,11 @@ void tst_LookCheck::xmlFaults()
     QFETCH(QString, said);
     const Deployment deployment;
     deployment.write(QStringLiteral("UIGraphics.xml"), xml);
-    QCOMPARE(deployment.findings(),
-             finding.isEmpty() ? QStringList() : QStringList(QStringLiteral("UIGraphics.xml") + finding));
+    QStringList expected;
+    if (!finding.isEmpty())
+        for (const QString &each : finding.split(QLatin1Char(',')))
+            expected.append(QStringLiteral("UIGraphics.xml") + each);
+    QCOMPARE(deployment.findings(), expected);
     const QString text = deployment.text();
     QVERIFY2(text.contains(said), qPrintable(text));
 }
@@ -339,6 +375,93 @@ void tst_LookCheck::languageFolderHoldsWhatDiffers()
     QCOMPARE(deployment.findings(), both);
 }
 
+void tst_LookCheck::namesThatLibraryPassesOver()
+{
+    const Deployment deployment;
+    for (const char *name : {"UIGraphics.xml.txt", "ja_JP/UIGraphics.xml", "jp/UIGraphics.xml", "ja/fonts/KORZEMED.otf",
+                             "ko/Fonts/KORZEMED.otf", "ja/UIGraphics.xml", "ko/UIGraphics.xml"})
+        deployment.write(QLatin1String(name), "<a/>");
+    const QStringList expected{QStringLiteral("UIGraphics.xml.txt:0 warning"), QStringLiteral("ja/fonts:0 warning"),
+                               QStringLiteral("ja_JP:0 warning"), QStringLiteral("jp:0 warning"),
+                               QStringLiteral("ko/Fonts/KORZEMED.otf:0 warning")};
+    QCOMPARE(deployment.findings(), expected);
+    QVERIFY(deployment.text().contains(QStringLiteral("Is it meant to be \"ja\"?")));
+}
+
+void tst_LookCheck::linksToNowhere()
+{
+    const Deployment deployment;
+    const QString xml = QStringLiteral("UIGraphics.xml");
+    for (const QString &target : {QStringLiteral("/no/such/file"), deployment.path(xml)}) { // nothing, and itself
+        QFile::remove(deployment.path(xml));
+        QVERIFY(QFile::link(target, deployment.path(xml)));
+        QCOMPARE(deployment.findings(), QStringList(xml + QStringLiteral(":0 error")));
+    }
+}
+
+void tst_LookCheck::languageTags_data()
+{
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<int>("status");
+    QTest::newRow("tag") << QStringLiteral("zh-cht") << 0;
+    QTest::newRow("alias") << QStringLiteral("zh-tw") << 0;
+    QTest::newRow("without a font of its own") << QStringLiteral("pt-br") << 0;
+    QTest::newRow("locale") << QStringLiteral("ko_KR.UTF-8") << 1; // what is wrong in ko/
+    QTest::newRow("country") << QStringLiteral("jp") << ::cannotRun;
+    QTest::newRow("application's own") << QStringLiteral("house") << 1;
+}
+
+void tst_LookCheck::languageTags()
+{
+    QFETCH(QString, tag);
+    QFETCH(int, status);
+    const Deployment deployment;
+    deployment.write(QStringLiteral("ko/UIGraphics.xml"), "<");
+    deployment.write(QStringLiteral("house/UIGraphics.xml"), "<");
+    QCOMPARE(Run({QStringLiteral("--language"), tag, deployment.path()}).status, status);
+}
+
+// A line of the common file makes the same place hard to read in each language.
+void tst_LookCheck::contrastIsToldOnce()
+{
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_RECTGRAD1", "000000"));
+    deployment.write(QStringLiteral("ja/UIGraphics.xml"), colorXml("UIGCLR_RECTGRAD2", "FAFAFA"));
+    deployment.write(QStringLiteral("ko/UIGraphics.xml"), colorXml("UIGCLR_GLOW", "101010"));
+    const QStringList once{QStringLiteral("UIGraphics.xml:2 warning")};
+    QCOMPARE(deployment.findings(), once);
+    deployment.write(QStringLiteral("ja/UIGraphics.xml"), colorXml("UIGCLR_RECTGRAD2", "101010"));
+    QCOMPARE(deployment.findings(), once + QStringList(QStringLiteral("ja/UIGraphics.xml:2 warning")));
+}
+
+void tst_LookCheck::contrastPairsNameKeys()
+{
+    QSet<QString> keys;
+    for (const ColorDefault &color : colorDefaults)
+        keys.insert(QString::fromUtf16(color.key));
+    QSet<QString> bitmaps;
+    for (const LookBitmap &bitmap : lookBitmaps)
+        bitmaps.insert(QString::fromUtf16(bitmap.name));
+    QSet<QString> places;
+    for (const lookcheck::ContrastPair &pair : lookcheck::contrastPairs) {
+        for (const char *key : {pair.text, pair.ground, pair.groundEnd})
+            QVERIFY2(key == nullptr || keys.contains(QLatin1String(key)), key);
+        QVERIFY2(pair.bitmap == nullptr || bitmaps.contains(QString::fromUtf16(pair.bitmap)), pair.where);
+        QVERIFY2(!places.contains(QLatin1String(pair.where)), pair.where);
+        places.insert(QLatin1String(pair.where));
+    }
+}
+
+void tst_LookCheck::keysAreListed()
+{
+    const Run run({QStringLiteral("--keys")});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(static_cast<int>(run.output.count('\n')),
+             static_cast<int>(std::size(colorDefaults) + std::size(familyDefaults)));
+    static const QRegularExpression glow(QStringLiteral("(?m)^UIGCLR_GLOW +B4DCFF$"));
+    QVERIFY(QString::fromUtf8(run.output).contains(glow));
+}
+
 void tst_LookCheck::partialDirectoryMayLackBitmaps()
 {
     const QTemporaryDir empty;
@@ -407,7 +530,7 @@ void tst_LookCheck::hostileFiles_data()
     QTest::newRow("nested entities") << xml << laughs + "]><a><Color Name='UIGCLR_GLOW'>&l29;</Color></a>" << qint64(0)
                                      << QStringLiteral("no effect at all");
     QTest::newRow("100 megabytes") << xml << QByteArray("<a>") << qint64(100) * 1024 * 1024
-                                   << QStringLiteral("larger than a megabyte");
+                                   << QStringLiteral("larger than a megabyte and was not checked");
     const int depth = 30000;
     QByteArray deep;
     for (int i = 0; i < depth; ++i)
@@ -418,10 +541,14 @@ void tst_LookCheck::hostileFiles_data()
                                                QByteArray("<Color Name='UIGCLR_X'/>\n").repeated(20000) + "</a>"
                                         << qint64(0) << QStringLiteral("19900 more like these");
     QTest::newRow("bitmap bomb") << bitmap << boastingPng(60000) << qint64(0)
-                                 << QStringLiteral("60000 x 60000 pixels; no control is that large");
+                                 << QStringLiteral("no control is that large. It was not checked.");
     QTest::newRow("bitmap without content") << bitmap << boastingPng(64) << qint64(0) << QStringLiteral("is damaged");
     QTest::newRow("giant bitmap") << bitmap << QByteArray("\x89PNG") << qint64(100) * 1024 * 1024
-                                  << QStringLiteral("larger than 16 megabytes");
+                                  << QStringLiteral("larger than 16 megabytes. It was not checked.");
+    QTest::newRow("drawing") << bitmap << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")
+                             << qint64(0) << QStringLiteral("This is an SVG drawing. It is drawn only where Qt");
+    QTest::newRow("directory's remedy") << xml + QStringLiteral("/x") << QByteArray("x") << qint64(0)
+                                        << QStringLiteral("Put a file there");
     QTest::newRow("empty bitmap") << bitmap << QByteArray() << qint64(0) << QStringLiteral("is damaged");
 }
 
@@ -507,33 +634,105 @@ void tst_LookCheck::tableKnowsWhatPaintersAskFor()
 #endif
 }
 
+#ifdef GALLERY
+namespace {
+
+/** The page of --sheet. */
+struct SheetPage
+{
+    explicit SheetPage(const Deployment &deployment)
+    {
+        const QTemporaryDir directory;
+        QFile file(directory.filePath(QStringLiteral("sheet.html")));
+        run = std::make_unique<Run>(QStringList{QStringLiteral("--sheet"), file.fileName(), deployment.path()});
+        if (file.open(QIODevice::ReadOnly))
+            html = QString::fromUtf8(file.readAll());
+    }
+
+    /** The text of the page of the gallery up to what is unchanged there. */
+    QString changedOf(const QString &title) const
+    {
+        return html.section(QStringLiteral("\">%1 <small>").arg(title), 1, 1).section(QStringLiteral("<details"), 0, 0);
+    }
+
+    /** What a picture shows; its alternative text says which one it is. */
+    QImage picture(const QString &alternative) const
+    {
+        const QString start = QStringLiteral("alt=\"%1\" src=\"data:image/png;base64,").arg(alternative);
+        const QString data = html.section(start, 1, 1).section(QLatin1Char('"'), 0, 0);
+        return QImage::fromData(QByteArray::fromBase64(data.toLatin1()));
+    }
+
+    std::unique_ptr<Run> run;
+    QString html;
+};
+
+int pixelsOf(const QImage &image, const QColor &color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == color ? 1 : 0;
+    return count;
+}
+
+} // namespace
+#endif
+
 void tst_LookCheck::sheetShowsWhatDiffers()
 {
 #ifndef GALLERY
     QSKIP("Built without the gallery");
 #else
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_CE_HEADER", "00AA00"));
-    QImage box(deployment.path(QStringLiteral("CheckboxActive.png")));
-    box.fill(Qt::red);
-    QVERIFY(box.save(deployment.path(QStringLiteral("CheckboxActive.png"))));
-    const QTemporaryDir directory;
-    const QString page = directory.filePath(QStringLiteral("sheet.html"));
-    const Run run({QStringLiteral("--sheet"), page, deployment.path()});
-    QVERIFY2(run.status == 0, run.errors.constData());
-    QFile file(page);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString html = QString::fromUtf8(file.readAll());
+    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_PE_PANELTIPLABEL_GRAD1", "00AA00"));
+    for (const char *name : {"CheckboxActive.png", "RadiobuttonActive@2x.png"}) {
+        QImage box(deployment.path(QLatin1String(name)));
+        box.fill(Qt::red);
+        QVERIFY(box.save(deployment.path(QLatin1String(name))));
+    }
+    const SheetPage page(deployment);
+    QVERIFY2(page.run->status == 0, page.run->errors.constData());
 
-    const QString changed = html.section(QStringLiteral("<details>"), 0, 0);
-    const QString unchanged = html.section(QStringLiteral("<details>"), 1);
-    QVERIFY(changed.contains(QStringLiteral("alt=\"Checkboxes")) || changed.contains(QStringLiteral("alt=\"Check")));
-    QVERIFY(!changed.contains(QStringLiteral("alt=\"Sliders")));
-    QVERIFY(unchanged.contains(QStringLiteral("alt=\"Sliders")));
-    QCOMPARE(changed.count(QStringLiteral(", before\"")), changed.count(QStringLiteral(", after\"")));
+    const QString box = QStringLiteral("Check boxes, States, CCheckBoxEx: Normal, ");
+    QVERIFY(page.changedOf(QStringLiteral("Check boxes")).contains(box));
+    QCOMPARE(pixelsOf(page.picture(box + QStringLiteral("before")), Qt::red), 0);
+    QVERIFY(pixelsOf(page.picture(box + QStringLiteral("after")), Qt::red) > 100);
+    const QString tip = QStringLiteral("Standard widgets, Tool tips, One line, ");
+    const auto isGreen = [](const QColor &color) {
+        return color.green() > 2 * color.red() && color.green() > 2 * color.blue();
+    };
+    QVERIFY(!isGreen(page.picture(tip + QStringLiteral("before")).pixelColor(0, 0)));
+    QVERIFY(isGreen(page.picture(tip + QStringLiteral("after")).pixelColor(0, 0)));
+    const QString twin = QStringLiteral("Standard widgets, Buttons, QRadioButton: Normal, after");
+    QVERIFY(
+        page.changedOf(QStringLiteral("Standard widgets")).contains(QStringLiteral("Only on screens of high density")));
+    QVERIFY(pixelsOf(page.picture(twin), Qt::red) > 100);
+
+    QVERIFY(page.changedOf(QStringLiteral("Sliders")).isEmpty());
+    QVERIFY(page.html.contains(QStringLiteral(">Sliders</a> <small>unchanged<")));
+    QVERIFY(page.html.contains(QStringLiteral("alt=\"Sliders, ")));
+    QCOMPARE(page.html.count(QStringLiteral(", before\"")), page.html.count(QStringLiteral(", after\"")));
     // Nothing beside the page itself.
-    QCOMPARE(html.count(QStringLiteral("src=")), html.count(QStringLiteral("src=\"data:image/png;base64,iVBOR")));
-    QVERIFY(!html.contains(QStringLiteral("href=\"http")));
+    QCOMPARE(page.html.count(QStringLiteral("src=")),
+             page.html.count(QStringLiteral("src=\"data:image/png;base64,iVBOR")));
+    QVERIFY(!page.html.contains(QStringLiteral("href=\"http")));
+#endif
+}
+
+void tst_LookCheck::sheetOfSameLook()
+{
+#ifndef GALLERY
+    QSKIP("Built without the gallery");
+#else
+    const Deployment deployment;
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>\n<Color></a>");
+    const SheetPage page(deployment);
+    QCOMPARE(page.run->status, 1);
+    const QString fault = QStringLiteral("UIGraphics.xml:2: The file has no effect at all: ");
+    QVERIFY(page.html.contains(fault));
+    QVERIFY(page.run->errors.contains(fault.toUtf8()));
+    QVERIFY(page.html.contains(QStringLiteral(" specimens are drawn as in the built-in look.")));
 #endif
 }
 

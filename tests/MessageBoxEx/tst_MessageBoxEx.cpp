@@ -163,6 +163,7 @@ private Q_SLOTS:
     void longTextsAndLabelsAreNotCut();
     void opensInTheMiddleWithNothingCut();
     void contentGoesBack();
+    void helpIconStandsInTheLine();
     void blankHelp();
     void roads_data();
     void roads();
@@ -468,6 +469,23 @@ void tst_MessageBoxEx::contentGoesBack()
     QCOMPARE(show(left, [going](CMessageBoxEx &) { delete going; }), -1);
     CMessageBoxEx empty(m_window.get(), QStringLiteral("Print"), static_cast<QWidget *>(nullptr));
     QCOMPARE(show(empty, [](CMessageBoxEx &) {}), -1);
+}
+
+// Chinese letters come from another font as a rule, and make a higher line.
+void tst_MessageBoxEx::helpIconStandsInTheLine()
+{
+    for (const QString &help : {QStringLiteral("Help"), QStringLiteral("\u8a73\u7d30")}) {
+        const auto box = makeTextBox(0, 0, 0, help);
+        box->show();
+        const QLabel *link = labelWithText(*box, help);
+        const QWidget *icon = nullptr;
+        for (const QLabel *label : box->findChildren<QLabel *>())
+            if (label->geometry().right() < link->geometry().left() && label->text().isEmpty())
+                icon = label;
+        QVERIFY(icon != nullptr);
+        const int line = link->fontMetrics().boundingRect(help).height();
+        QVERIFY(qAbs(icon->geometry().center().y() - (link->geometry().top() + line / 2)) <= 1);
+    }
 }
 
 void tst_MessageBoxEx::blankHelp()

@@ -85,6 +85,7 @@ class tst_SupportReport : public HouseTest
 
 private Q_SLOTS:
     void tellsWhatRuns();
+    void tellsQtThatRunsFromQtThatWasBuiltWith();
     void tellsWhatWasReadAndMissed();
     void tellsOfFonts();
     void tellsOfMissingDirectory();
@@ -116,6 +117,16 @@ void tst_SupportReport::tellsWhatRuns()
     QVERIFY(values(report, "environment").contains(QStringLiteral("ZEL_SUPPORT=1")));
 }
 
+void tst_SupportReport::tellsQtThatRunsFromQtThatWasBuiltWith()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("LD_PRELOAD"), QStringLiteral(OTHER_QT));
+    deployment.set(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
+    const QString report = deployment.run({QStringLiteral("none"), QStringLiteral("call")}).printed;
+    QCOMPARE(value(report, "Qt, running"), QStringLiteral("9.8.7"));
+    QCOMPARE(value(report, "Qt, built with"), QStringLiteral(QT_VERSION_STR));
+}
+
 void tst_SupportReport::tellsWhatWasReadAndMissed()
 {
     Deployment deployment;
@@ -135,9 +146,17 @@ void tst_SupportReport::tellsWhatWasReadAndMissed()
     QVERIFY(values(report, "bitmaps not found").contains(QStringLiteral("PushbuttonWhiteBlit.png")));
     QCOMPARE(value(report, "  not readable"), deployment.path(QStringLiteral("Broken.png")));
 
-    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>");
+    deployment.write(QStringLiteral("UIGraphics.xml"),
+                     "<a><Color Name='UIGCLR_WHITE'>#111111</Color><Color Name='UIGCLR_RED'>red</Color><Color "
+                     "Name='UIGCLR_RED'>222222</Color></a>");
     report = deployment.run(look).errors;
-    QVERIFY(value(report, "XML files read").endsWith(QLatin1String("0 colours, 0 fonts; empty, or not well-formed")));
+    QVERIFY2(value(report, "XML files read")
+                 .endsWith(QLatin1String("0 fonts; black, for want of a number: UIGCLR_WHITE \"#111111\"")),
+             qPrintable(report));
+
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>\n<b>\n</a>");
+    report = deployment.run(look).errors;
+    QVERIFY2(value(report, "XML files read").contains(QLatin1String(": without effect, line 3: ")), qPrintable(report));
 }
 
 void tst_SupportReport::tellsOfFonts()

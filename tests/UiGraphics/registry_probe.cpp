@@ -1,8 +1,9 @@
 // Starts the look registry in a process of its own, asks what its arguments say, and prints one "key=value" line each.
 //
 //   color NAME | font PIXELS WEIGHT ITALIC | underlined ... | tooltip ... | held NAME | families NAME
-//   path NAME | pixmap NAME RATIO | image NAME | icon NAME | localized PATH | provide FILE
+//   path NAME | pixmap NAME RATIO | image NAME | icon NAME | localized PATH | provide FILE | locale
 #include "UiGraphics.h"
+#include "include/InterfaceLocale.h"
 
 #include <QApplication>
 #include <QFile>
@@ -102,6 +103,8 @@ QString answer(const QString &question, Arguments &arguments)
     }
     if (question == QLatin1String("provide"))
         return provide(arguments.text());
+    if (question == QLatin1String("locale"))
+        return zel::interfaceLocale().name();
     return describe(fontFor(question, arguments));
 }
 

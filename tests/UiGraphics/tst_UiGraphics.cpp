@@ -111,6 +111,8 @@ private Q_SLOTS:
     void xmlOverridesColors();
     void xmlReadsInDocumentOrder();
     void languageFileWins();
+    void languageChoosesLocale_data();
+    void languageChoosesLocale();
     void languageChoosesFont_data();
     void languageChoosesFont();
     void privateFont();
@@ -308,6 +310,33 @@ void tst_UiGraphics::languageFileWins()
                      "<a><Color Name='UIGCLR_PB_NORMAL_BOTTOM'>333333</Color><Font Name='UIGFONT_KO'>Nanum</Font></a>");
     QCOMPARE(deployment.ask(words("color UIGCLR_PB_NORMAL_BOTTOM color UIGCLR_PB_NORMAL_TOP font 13 -1 0")),
              words("#ff333333 #ff222222 Nanum,13px,-1pt,normal,antialias"));
+}
+
+// Of the look, not of the process.
+void tst_UiGraphics::languageChoosesLocale_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("locale");
+    const auto row = [](const char *language, const char *locale) {
+        QTest::newRow(language) << QString::fromLatin1(language) << QString::fromLatin1(locale);
+    };
+    row("ja", "ja_JP");
+    row("zh-chs", "zh_CN");
+    row("zh-cht", "zh_TW");
+    row("zh-tw", "zh_TW");
+    row("pt-br", "pt_BR");
+    row("he", "he_IL");
+    row("house", "C");
+}
+
+void tst_UiGraphics::languageChoosesLocale()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, locale);
+    Deployment deployment;
+    deployment.set(QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8"));
+    deployment.set(QStringLiteral("ZEL_LANGUAGE"), language);
+    QCOMPARE(deployment.ask(words("locale")), QStringList(locale));
 }
 
 void tst_UiGraphics::languageChoosesFont_data()

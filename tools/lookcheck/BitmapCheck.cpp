@@ -95,15 +95,33 @@ private:
         }
         const BitmapFile file = readBitmap(found.path);
         found.size = file.size;
-        if (!file.error.isEmpty())
-            m_findings->add({Severity::Error, found.path, 0, file.error + QStringLiteral(" Nothing is drawn."),
-                             QStringLiteral("Put a PNG file in its place.")});
+        tellFault(file, found.path, QStringLiteral("Nothing is drawn."));
         const QString twinPath = doubleResolutionPath(found.path);
         if (!QFileInfo::exists(twinPath))
             return found;
         found.twinPath = twinPath;
         found.twin = readBitmap(twinPath);
         return found;
+    }
+
+    void tellFault(const BitmapFile &file, const QString &path, const QString &consequence)
+    {
+        const auto tell = [&](Severity severity, const QString &what, const QString &remedy) {
+            m_findings->add({severity, path, 0, QStringLiteral("%1 %2").arg(file.error, what), remedy});
+        };
+        switch (file.fault) {
+        case BitmapFault::None: return;
+        case BitmapFault::NoBitmap:
+            return tell(Severity::Error, consequence, QStringLiteral("Put a PNG file in its place."));
+        case BitmapFault::Forbidden:
+            return tell(Severity::Error, consequence, QStringLiteral("Let all users of the application read it."));
+        case BitmapFault::TooLarge:
+            return tell(Severity::Warning, QStringLiteral("It was not checked."),
+                        QStringLiteral("Is it the right one?"));
+        case BitmapFault::Drawing:
+            return tell(Severity::Warning, QStringLiteral("It is drawn only where Qt has its SVG plugin."),
+                        QStringLiteral("Put a PNG file in its place."));
+        }
     }
 
     void tellMissing(const QString &name)
@@ -193,10 +211,8 @@ private:
                 {Severity::Note, found.path, 0,
                  QStringLiteral("There is no @2x twin: screens of high density enlarge this one."),
                  QStringLiteral("Put %1 beside it.").arg(QFileInfo(doubleResolutionPath(found.path)).fileName())});
-        else if (!twin.error.isEmpty())
-            m_findings->add({Severity::Error, found.twinPath, 0,
-                             twin.error + QStringLiteral(" Screens of high density draw nothing."),
-                             QStringLiteral("Put a PNG file in its place, or take it away.")});
+        else if (twin.fault != BitmapFault::None)
+            tellFault(twin, found.twinPath, QStringLiteral("Screens of high density draw nothing."));
         else if (twin.size != 2 * found.size)
             m_findings->add({Severity::Error, found.twinPath, 0,
                              QStringLiteral("The twin is %1 pixels and not twice as large as its original of %2.")
@@ -243,7 +259,7 @@ QString oversizedFile(const Look &look)
     for (const LookBitmap &bitmap : lookBitmaps) {
         const QString path = look.find(nameOf(bitmap));
         for (const QString &candidate : {path, doubleResolutionPath(path)})
-            if (!path.isEmpty() && readBitmap(candidate).isTooLarge)
+            if (!path.isEmpty() && readBitmap(candidate).fault == BitmapFault::TooLarge)
                 return candidate;
     }
     return QString();

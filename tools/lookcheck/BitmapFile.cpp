@@ -1,5 +1,6 @@
 #include "BitmapFile.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
@@ -14,17 +15,19 @@ namespace {
 constexpr int largestSide = 4096; // pixels
 constexpr qint64 largestFile = qint64(16) * 1024 * 1024;
 
-BitmapFile failed(const QString &error)
+// Here, Qt may lack the plugin.
+bool isSvg(const QString &path)
 {
-    BitmapFile file;
-    file.error = error;
-    return file;
+    constexpr qint64 beginning = 1024; // bytes; a prolog and comments may come first
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(beginning).contains("<svg");
 }
 
-BitmapFile tooLarge(const QString &error)
+BitmapFile failed(BitmapFault fault, const QString &error)
 {
-    BitmapFile file = failed(error);
-    file.isTooLarge = true;
+    BitmapFile file;
+    file.fault = fault;
+    file.error = error;
     return file;
 }
 
@@ -34,22 +37,22 @@ BitmapFile readBitmap(const QString &path, QImage *image)
 {
     const QFileInfo info(path);
     if (!info.isFile())
-        return failed(QStringLiteral("This is no file."));
+        return failed(BitmapFault::NoBitmap, QStringLiteral("This is no file."));
     if (!info.isReadable())
-        return failed(QStringLiteral("This user may not read the file."));
+        return failed(BitmapFault::Forbidden, QStringLiteral("This user may not read the file."));
     if (info.size() > largestFile)
-        return tooLarge(QStringLiteral("The file is larger than 16 megabytes."));
+        return failed(BitmapFault::TooLarge, QStringLiteral("The file is larger than 16 megabytes."));
     QImageReader reader(path);
-    if (reader.format().startsWith("svg"))
-        return failed(QStringLiteral("This is a drawing, not a bitmap."));
+    if (reader.format().startsWith("svg") || (reader.format().isEmpty() && isSvg(path)))
+        return failed(BitmapFault::Drawing, QStringLiteral("This is an SVG drawing."));
     const QSize size = reader.size();
     if (size.width() > largestSide || size.height() > largestSide)
-        return tooLarge(QStringLiteral("The bitmap is %1 x %2 pixels; no control is that large.")
-                            .arg(size.width())
-                            .arg(size.height()));
+        return failed(BitmapFault::TooLarge, QStringLiteral("The bitmap is %1 x %2 pixels; no control is that large.")
+                                                 .arg(size.width())
+                                                 .arg(size.height()));
     QImage read = size.isValid() ? reader.read() : QImage();
     if (read.isNull())
-        return failed(QStringLiteral("The file is no bitmap, or is damaged."));
+        return failed(BitmapFault::NoBitmap, QStringLiteral("The file is no bitmap, or is damaged."));
     BitmapFile file;
     file.size = read.size();
     if (image != nullptr)

@@ -8,12 +8,21 @@ class QImage;
 
 namespace lookcheck {
 
+enum class BitmapFault
+{
+    None,
+    NoBitmap,  // nothing that Qt could draw
+    Forbidden, // for this user
+    TooLarge,  // by what it says of itself: it was not read
+    Drawing    // an SVG, which Qt draws only where it has the plugin
+};
+
 /** What a file turned out to be. */
 struct BitmapFile
 {
-    QSize size;              // invalid when the file is no bitmap that can be used
-    QString error;           // why; empty for a good one
-    bool isTooLarge = false; // by what it says of itself: it was not read
+    QSize size; // invalid where there is a fault
+    BitmapFault fault = BitmapFault::None;
+    QString error; // the fault in words
 };
 
 /** Reads the file once, whole, unless it is too large. `image` may be null. */

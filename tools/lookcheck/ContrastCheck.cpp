@@ -93,18 +93,25 @@ public:
     {
         for (const ContrastPair &pair : contrastPairs)
             check(pair);
-        for (const LowContrast &low : std::as_const(m_low))
-            findings->add({low.severity, low.file, low.line,
-                           QStringLiteral("Hard to read: %1.").arg(low.places.join(QStringLiteral(", "))),
-                           QStringLiteral("Take colours whose contrast is at least %1 to 1.").arg(readable)});
+        for (const LowContrast &low : std::as_const(m_low)) {
+            // The looks of several languages share lines, and most of what these make hard to read.
+            QStringList places;
+            for (const QString &place : low.places)
+                if (findings->isFirst(place))
+                    places.append(place);
+            if (!places.isEmpty())
+                findings->add({low.severity, low.file, low.line,
+                               QStringLiteral("Hard to read: %1.").arg(places.join(QStringLiteral(", "))),
+                               QStringLiteral("Take colours whose contrast is at least %1 to 1.").arg(readable)});
+        }
     }
 
 private:
     void check(const ContrastPair &pair)
     {
-        const Given<QColor> text = m_look.color(QLatin1String(pair.text));
-        const Given<QColor> ground = m_look.color(QLatin1String(pair.ground));
-        const Given<QColor> end = pair.groundEnd != nullptr ? m_look.color(QLatin1String(pair.groundEnd)) : ground;
+        const Given<QColor> text = given(pair.text, Qt::black);
+        const Given<QColor> ground = given(pair.ground, Qt::white);
+        const Given<QColor> end = pair.groundEnd != nullptr ? given(pair.groundEnd, Qt::white) : ground;
         if (text.isFaulty || ground.isFaulty || end.isFaulty)
             return;
         if (pair.bitmap != nullptr) {
@@ -113,13 +120,22 @@ private:
         }
         const double ratio = lowestOnGradient(text.value, pair.textAlpha, ground.value, end.value);
         const double builtIn = builtInRatio(pair);
-        const QString place =
-            pair.groundEnd == nullptr
-                ? QStringLiteral("%1 on %2").arg(QLatin1String(pair.text), QLatin1String(pair.ground))
-                : QStringLiteral("%1 on %2 to %3")
-                      .arg(QLatin1String(pair.text), QLatin1String(pair.ground), QLatin1String(pair.groundEnd));
         if (ratio < readable)
-            tell(ratio < builtIn - noticed, firstGiven({text, ground, end}), pair, ratio, place);
+            tell(ratio < builtIn - noticed, mostOwn({text, ground, end}), pair, ratio, keysOf(pair));
+    }
+
+    static QString keysOf(const ContrastPair &pair)
+    {
+        const auto name = [](const char *key, const char *fixed) {
+            return QLatin1String(key != nullptr ? key : fixed);
+        };
+        const QString keys = QStringLiteral("%1 on %2").arg(name(pair.text, "black"), name(pair.ground, "white"));
+        return pair.groundEnd == nullptr ? keys : QStringLiteral("%1 to %2").arg(keys, QLatin1String(pair.groundEnd));
+    }
+
+    Given<QColor> given(const char *key, const QColor &fixed) const
+    {
+        return key != nullptr ? m_look.color(QLatin1String(key)) : Given<QColor>{fixed, QString(), 0, false};
     }
 
     // The artwork of the built-in look is readable, so here is nothing to compare with.
@@ -127,7 +143,7 @@ private:
     {
         const QString path = m_look.find(QString::fromUtf16(pair.bitmap));
         QImage bitmap;
-        if (path.isEmpty() || !readBitmap(path, &bitmap).error.isEmpty())
+        if (path.isEmpty() || readBitmap(path, &bitmap).fault != BitmapFault::None)
             return;
         const double ratio = lowestOnBitmap(text.value, pair.textAlpha, bitmap, behind);
         if (ratio < readable - noticed)
@@ -137,17 +153,25 @@ private:
 
     static double builtInRatio(const ContrastPair &pair)
     {
-        const QColor ground = builtInColor(QLatin1String(pair.ground));
-        const QColor end = pair.groundEnd != nullptr ? builtInColor(QLatin1String(pair.groundEnd)) : ground;
-        return lowestOnGradient(builtInColor(QLatin1String(pair.text)), pair.textAlpha, ground, end);
+        const auto color = [](const char *key, const QColor &fixed) {
+            return key != nullptr ? builtInColor(QLatin1String(key)) : fixed;
+        };
+        const QColor ground = color(pair.ground, Qt::white);
+        return lowestOnGradient(color(pair.text, Qt::black), pair.textAlpha, ground, color(pair.groundEnd, ground));
     }
 
-    // What the deployer gave is what the deployer can change.
-    Given<QColor> firstGiven(const QVector<Given<QColor>> &colors) const
+    // What the deployer gave is what the deployer can change, and what the language's file gave is what makes this look
+    // another one than the common look.
+    Given<QColor> mostOwn(const QVector<Given<QColor>> &colors) const
     {
-        for (const Given<QColor> &color : colors)
-            if (!color.file.isEmpty())
-                return color;
+        const auto find = [&colors](const QString &folder) {
+            return std::find_if(colors.cbegin(), colors.cend(), [&folder](const Given<QColor> &color) {
+                return !color.file.isEmpty() && color.file.startsWith(folder);
+            });
+        };
+        for (const QString &folder : {m_look.folder(), m_look.directory()})
+            if (const auto own = find(folder + QLatin1Char('/')); own != colors.cend())
+                return *own;
         return {QColor(), m_look.commonPath(lookOverridesFile), 0, false};
     }
 

@@ -27,6 +27,13 @@ void Findings::add(const Finding &finding)
     m_findings.append(finding);
 }
 
+bool Findings::isFirst(const QString &part)
+{
+    const int known = static_cast<int>(m_known.size());
+    m_known.insert(part);
+    return m_known.size() > known;
+}
+
 template <typename Condition>
 QVector<Finding> Findings::sorted(Condition &&isWanted) const
 {
@@ -68,13 +75,18 @@ QString quoted(const QString &text)
 }
 
 // Terminals obey control characters, and those that turn the direction of writing hide what a name really says.
+QString withoutControls(QString text)
+{
+    for (QChar &character : text)
+        if (!character.isPrint())
+            character = QLatin1Char('?');
+    return text;
+}
+
 QString harmless(const QString &text)
 {
     constexpr int longest = 60;
-    QString shown = text.left(longest);
-    for (QChar &character : shown)
-        if (!character.isPrint())
-            character = QLatin1Char('?');
+    const QString shown = withoutControls(text.left(longest));
     return text.size() > longest ? shown + QStringLiteral("...") : shown;
 }
 

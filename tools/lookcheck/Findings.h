@@ -31,6 +31,9 @@ class Findings
 public:
     void add(const Finding &finding);
 
+    /** Whether a part of a finding, such as one place of several, is asked for the first time. */
+    bool isFirst(const QString &part);
+
     /** Errors and warnings. */
     QVector<Finding> faults() const;
     QVector<Finding> notes() const;
@@ -50,6 +53,9 @@ QString quoted(const QString &text);
 
 /** The same without the quotation marks. */
 QString harmless(const QString &text);
+
+/** The same in full length: for texts that are bounded already, such as messages of Qt. */
+QString withoutControls(QString text);
 
 /** "2 errors", "1 error". */
 QString counted(int count, const QString &noun);

@@ -4,6 +4,7 @@
 #include "Look.h"
 #include "Nearest.h"
 #include "UiGraphicsFonts.h"
+#include "UiGraphicsLanguage.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -72,6 +73,34 @@ QStringList keysOf(const Look &look)
     return keys;
 }
 
+// "fonts" beside a missing "Fonts", on a file system that tells upper from lower case.
+QString misspeltFolder(const QString &folder)
+{
+    const QFileInfo wanted(folder);
+    for (const QString &name : QDir(wanted.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        if (name != wanted.fileName() && name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0)
+            return wanted.isDir() ? QString() : QDir(wanted.path()).filePath(name);
+    return QString();
+}
+
+// Told once for the directory and once for the language's.
+void checkFolders(const Look &look, Findings *findings)
+{
+    const QString folder = QFileInfo(look.folder() + QLatin1Char('/') + privateFontFile).path();
+    const QString misspelt = misspeltFolder(folder);
+    if (!misspelt.isEmpty())
+        findings->add(
+            {Severity::Warning, misspelt, 0, QStringLiteral("The library reads no folder of this name."),
+             QStringLiteral("Is it meant to be %1? Names count letter for letter.").arg(QFileInfo(folder).fileName())});
+    const LanguageFont *language = languageFontOf(look.language());
+    const QString font = look.folder() + QLatin1Char('/') + privateFontFile;
+    if (language != nullptr && QFileInfo::exists(font))
+        findings->add({Severity::Warning, font, 0,
+                       QStringLiteral("This font is never used: texts in %1 have that of %2.")
+                           .arg(look.language(), QString::fromUtf16(language->familyKey)),
+                       QStringLiteral("Take it away, and name an installed family in UIGraphics.xml.")});
+}
+
 // Without the file nothing asks for its family. That is the look of an installation as it comes.
 void tellPrivateFontMissing(const Look &look, const Given<QString> &family, Findings *findings)
 {
@@ -101,8 +130,16 @@ void checkPrivateFont(const Look &look, Findings *findings)
         return;
     }
     const QStringList families = familiesOfFile(path);
-    if (families.isEmpty())
-        findings->add({Severity::Error, path, 0, QStringLiteral("The private font cannot be read, or is no font."),
+    const QFileInfo info(path);
+    if (info.isFile() && info.size() > largestFont)
+        findings->add({Severity::Warning, path, 0,
+                       QStringLiteral("The private font is larger than 64 megabytes and was not checked."),
+                       QStringLiteral("Is it the right one?")});
+    else if (info.isFile() && !info.isReadable())
+        findings->add({Severity::Error, path, 0, QStringLiteral("This user may not read the private font."),
+                       QStringLiteral("Let all users of the application read it.")});
+    else if (families.isEmpty())
+        findings->add({Severity::Error, path, 0, QStringLiteral("The private font is no font, or is damaged."),
                        QStringLiteral("Put an OpenType or TrueType font in its place.")});
     else if (!isAmong(family.value, families) && !family.isFaulty)
         findings->add({Severity::Error, family.file.isEmpty() ? path : family.file, family.line,
@@ -112,17 +149,29 @@ void checkPrivateFont(const Look &look, Findings *findings)
                            .arg(privateFontKey, harmless(families.constFirst()))});
 }
 
+// The language whose texts a family is for.
+QString languageOf(const QString &key, const Look &look)
+{
+    if (languageFontOf(look.language()) == nullptr)
+        for (const LanguageFont &language : languageFonts)
+            if (key == QString::fromUtf16(language.familyKey) && key != QLatin1String("UIGFONT_TAHOMA"))
+                return QString::fromUtf16(language.tag);
+    return look.language().isEmpty() ? QStringLiteral("en") : look.language();
+}
+
 void checkFamily(const Look &look, const QString &key, Findings *findings)
 {
     const Given<QString> family = look.family(key);
     if (family.isFaulty || isInstalled(family.value))
         return;
     const bool isGiven = !family.file.isEmpty();
-    findings->add({isGiven ? Severity::Warning : Severity::Note,
-                   isGiven ? family.file : look.commonPath(lookOverridesFile), family.line,
-                   QStringLiteral("This machine has no font family %1 (%2); it shows %3.")
-                       .arg(quoted(family.value), key, quoted(shownFor(family.value))),
-                   QStringLiteral("Name a family that the machines of your users have, or install it there.")});
+    findings->add(
+        {isGiven ? Severity::Warning : Severity::Note, isGiven ? family.file : look.commonPath(lookOverridesFile),
+         family.line,
+         QStringLiteral("This machine has no font family %1 (%2); the texts are shown in %3.")
+             .arg(quoted(family.value), key,
+                  quoted(shownFamilies(QFont(family.value), languageOf(key, look)).join(QStringLiteral(", ")))),
+         QStringLiteral("Name a family that the machines of your users have, or install it there.")});
 }
 
 } // namespace
@@ -130,6 +179,7 @@ void checkFamily(const Look &look, const QString &key, Findings *findings)
 void checkFonts(const Look &look, Findings *findings)
 {
     const bool isForLanguage = !look.language().isEmpty();
+    checkFolders(look, findings);
     if (languageFontOf(look.language()) == nullptr)
         checkPrivateFont(look, findings);
     QStringList keys = isForLanguage ? keysOf(look) : familyKeys();

@@ -19,7 +19,8 @@ QProcessEnvironment environmentOf(const GalleryRun &run, const QString &scratch)
     environment.insert(QStringLiteral("ZEL_GRAPHICS_DIR"), run.graphicsDirectory);
     environment.insert(QStringLiteral("ZEL_LANGUAGE"), run.language.isEmpty() ? QStringLiteral("en") : run.language);
     environment.insert(QStringLiteral("XDG_STATE_HOME"), scratch);
-    for (const char *name : {"QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "ZEL_LOG", "ZEL_LOG_FILE"})
+    environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(run.scale));
+    for (const char *name : {"QT_STYLE_OVERRIDE", "ZEL_LOG", "ZEL_LOG_FILE"})
         environment.remove(QLatin1String(name));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     return environment;

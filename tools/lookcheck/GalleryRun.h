@@ -10,6 +10,7 @@ struct GalleryRun
 {
     QString graphicsDirectory;
     QString language; // empty: English
+    int scale;        // screen pixels per pixel
     QString picturesDirectory;
 };
 

@@ -15,9 +15,8 @@ OverridesFile readFile(const QString &path)
     OverridesFile file;
     file.path = path;
     const QFileInfo info(path);
-    if (info.isFile() && info.size() > largestOverridesFile)
-        file.overrides.error = QStringLiteral("The file is larger than a megabyte and was not read.");
-    else
+    file.isTooLarge = info.isFile() && info.size() > largestOverridesFile;
+    if (!file.isTooLarge)
         file.overrides = readLookOverrides(path);
     return file;
 }
@@ -118,15 +117,23 @@ QColor builtInColor(const QString &key)
     return QColor();
 }
 
-// Any tag is a language, so what is in a folder tells.
-QStringList languagesOf(const QString &directory)
+QString builtInFamily(const QString &key)
 {
-    QStringList languages;
+    for (const FamilyDefault &family : familyDefaults)
+        if (key == QString::fromUtf16(family.key))
+            return QString::fromUtf16(family.family);
+    return QString();
+}
+
+// Any tag is a language, so what is in a folder tells.
+QStringList lookFoldersOf(const QString &directory)
+{
+    QStringList folders;
     const QDir root(directory);
     for (const QString &name : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
         if (holdsLookFiles(QDir(root.filePath(name))))
-            languages.append(name);
-    return languages;
+            folders.append(name);
+    return folders;
 }
 
 } // namespace lookcheck

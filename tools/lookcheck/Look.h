@@ -25,10 +25,11 @@ struct Given
 struct OverridesFile
 {
     QString path;
-    LookOverrides overrides; // with an error of its own also for a file that is refused as too large
+    LookOverrides overrides;
+    bool isTooLarge = false; // to be checked; the library reads it
 };
 
-/** What is larger is not read: the file of all keys has some 20 kilobytes. */
+/** What is larger is not checked: the file of all keys has some 20 kilobytes. */
 constexpr qint64 largestOverridesFile = qint64(1024) * 1024;
 
 class Look
@@ -69,10 +70,11 @@ private:
 QStringList colorKeys();
 QStringList familyKeys();
 
-/** The built-in colour of a key. */
+/** The built-in colour or family of a key. */
 QColor builtInColor(const QString &key);
+QString builtInFamily(const QString &key);
 
-/** The folders of a graphics directory that hold files for a language. */
-QStringList languagesOf(const QString &directory);
+/** The folders of a graphics directory that hold files of a look, for a language as a rule. */
+QStringList lookFoldersOf(const QString &directory);
 
 } // namespace lookcheck

@@ -1,6 +1,9 @@
 #include "Options.h"
 
+#include "Languages.h"
+
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 
 namespace lookcheck {
@@ -13,6 +16,7 @@ const QString notesName = QStringLiteral("notes");
 const QString partialName = QStringLiteral("partial");
 const QString sheetName = QStringLiteral("sheet");
 const QString galleryName = QStringLiteral("gallery");
+const QString keysName = QStringLiteral("keys");
 const QString helpName = QStringLiteral("help");
 const QString versionName = QStringLiteral("version");
 
@@ -30,13 +34,15 @@ void declareOptions(QCommandLineParser *parser)
          QStringLiteral("TAG")},
         {jsonName, QStringLiteral("Print JSON for programs.")},
         {notesName, QStringLiteral("Print notes too: what may well be meant so. They do not count as findings.")},
-        {partialName, QStringLiteral("DIR will be laid over a whole look: do not ask for the bitmaps that it lacks.")},
+        {partialName, QStringLiteral("DIR is a part of a look, which is copied over the installed artwork before it "
+                                     "is used: do not ask for the bitmaps that it lacks.")},
         {sheetName,
          QStringLiteral("Check nothing; write a page that shows each control in the built-in look and in "
                         "that of DIR."),
          QStringLiteral("OUT.html")},
         {galleryName, QStringLiteral("The gallery that makes the pictures for --sheet (the one beside this program)."),
          QStringLiteral("PROGRAM")},
+        {keysName, QStringLiteral("Print the keys of UIGraphics.xml with their built-in values.")},
         {{QStringLiteral("h"), helpName}, QStringLiteral("Print this text.")},
         {versionName, QStringLiteral("Print the version.")},
     });
@@ -46,13 +52,14 @@ Options optionsOf(const QCommandLineParser &parser)
 {
     Options options;
     options.directory = parser.positionalArguments().value(0);
-    options.language = parser.value(languageName);
+    options.language = tagOf(parser.value(languageName));
     options.hasLanguage = parser.isSet(languageName);
     options.sheetFile = parser.value(sheetName);
     options.gallery = parser.value(galleryName);
     options.isJson = parser.isSet(jsonName);
     options.wantsNotes = parser.isSet(notesName);
     options.isPartial = parser.isSet(partialName);
+    options.areKeysWanted = parser.isSet(keysName);
     options.isHelpWanted = parser.isSet(helpName);
     options.isVersionWanted = parser.isSet(versionName);
     return options;
@@ -62,6 +69,12 @@ bool isTag(const QString &language)
 {
     return !language.contains(QLatin1Char('/')) && !language.contains(QLatin1Char('\\')) &&
            !language.startsWith(QLatin1Char('.'));
+}
+
+bool isOfLook(const Options &options)
+{
+    return options.language.isEmpty() || isKnownLanguage(options.language) ||
+           QDir(options.directory).exists(options.language);
 }
 
 QString errorOf(const QCommandLineParser &parser, const Options &options)
@@ -75,8 +88,11 @@ QString errorOf(const QCommandLineParser &parser, const Options &options)
         return QStringLiteral("'%1' is no directory.").arg(options.directory);
     if (!directory.isReadable() || !directory.isExecutable())
         return QStringLiteral("The directory '%1' cannot be read.").arg(options.directory);
-    if (!isTag(options.language))
-        return QStringLiteral("'%1' is no language tag.").arg(options.language);
+    if (!isTag(parser.value(languageName)))
+        return QStringLiteral("'%1' is no language tag.").arg(parser.value(languageName));
+    if (!isOfLook(options))
+        return QStringLiteral("There is no language '%1', and no folder for it. Tags are such as ja, zh-chs, ko.")
+            .arg(options.language);
     if (parser.isSet(sheetName) && options.sheetFile.isEmpty())
         return QStringLiteral("The option --sheet needs the name of a file.");
     return QString();
@@ -94,7 +110,8 @@ ParsedOptions parseOptions(const QStringList &arguments)
         return parsed;
     }
     parsed.options = optionsOf(parser);
-    if (!parsed.options.isHelpWanted && !parsed.options.isVersionWanted)
+    const Options &options = parsed.options;
+    if (!options.isHelpWanted && !options.isVersionWanted && !options.areKeysWanted)
         parsed.error = errorOf(parser, parsed.options);
     return parsed;
 }

@@ -9,13 +9,14 @@ namespace lookcheck {
 struct Options
 {
     QString directory;
-    QString language;  // meaningful with hasLanguage; may be empty: the common files alone
+    QString language;  // its tag; meaningful with hasLanguage; may be empty: the common files alone
     QString sheetFile; // empty: check
     QString gallery;   // empty: the one beside this program
     bool hasLanguage = false;
     bool isJson = false;
     bool wantsNotes = false;
     bool isPartial = false;
+    bool areKeysWanted = false;
     bool isHelpWanted = false;
     bool isVersionWanted = false;
 };

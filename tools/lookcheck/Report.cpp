@@ -1,6 +1,7 @@
 #include "Report.h"
 
 #include "Findings.h"
+#include "Look.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -56,6 +57,17 @@ QString textReport(const Findings &findings, bool withNotes)
         for (const Finding &finding : findings.notes())
             report += textOf(finding);
     return report + summaryOf(findings, withNotes);
+}
+
+QString keysText()
+{
+    constexpr int keyWidth = 44;
+    QString text;
+    for (const QString &key : colorKeys())
+        text += key.leftJustified(keyWidth) + builtInColor(key).name().mid(1).toUpper() + QLatin1Char('\n');
+    for (const QString &key : familyKeys())
+        text += key.leftJustified(keyWidth) + builtInFamily(key) + QLatin1Char('\n');
+    return text;
 }
 
 QByteArray jsonReport(const QString &directory, const Findings &findings)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace lookcheck {
 
@@ -13,5 +14,8 @@ class Look;
  * written. An older page stays where writing fails.
  */
 QString writeSheet(const Look &look, const QString &file, const QString &gallery);
+
+/** The UIGraphics.xml files that have no effect, and why: the page shows the look without them. */
+QStringList faultsOfFiles(const Look &look);
 
 } // namespace lookcheck

@@ -5,7 +5,10 @@
 #include "Nearest.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
+
+#include <algorithm>
 
 namespace lookcheck {
 
@@ -14,6 +17,7 @@ namespace {
 constexpr int mostFaultsOfFile = 100; // who has more has the wrong file
 constexpr int digitsWithoutAlpha = 6;
 constexpr int digitsWithAlpha = 8;
+constexpr quint32 opaque = 0xFF;
 
 /** The kind of element that a list of overrides holds. */
 struct Kind
@@ -30,12 +34,19 @@ public:
 
     void run()
     {
-        if (!m_file.overrides.error.isEmpty()) {
-            tell(Severity::Error, m_file.overrides.errorLine,
-                 QStringLiteral("The file has no effect at all: %1").arg(harmless(m_file.overrides.error)),
-                 QStringLiteral("Make it a well-formed XML file."));
+        if (m_file.isTooLarge) {
+            tell(Severity::Warning, 0, QStringLiteral("The file is larger than a megabyte and was not checked."),
+                 QStringLiteral("Is it the right one? A file of all keys has some 20 kilobytes."));
             return;
         }
+        if (m_file.overrides.fault != LookFileFault::None) {
+            tell(Severity::Error, m_file.overrides.errorLine,
+                 QStringLiteral("The file has no effect at all: %1").arg(withoutControls(m_file.overrides.error)),
+                 remedyOf(m_file.overrides.fault));
+            return;
+        }
+        for (const OtherElement &other : m_file.overrides.others)
+            checkOther(other);
         for (const int line : m_file.overrides.namelessLines)
             tell(Severity::Warning, line, QStringLiteral("An element without a Name has no effect."),
                  QStringLiteral("Give it the attribute Name, in this spelling, with a key."));
@@ -47,9 +58,26 @@ public:
     }
 
 private:
+    static QString remedyOf(LookFileFault fault)
+    {
+        switch (fault) {
+        case LookFileFault::Unreadable:
+            return QStringLiteral("Put a file there that all users of the application may read.");
+        case LookFileFault::Encoding:
+            return QStringLiteral("Save it as UTF-8, or say its encoding in the first line: "
+                                  "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>");
+        case LookFileFault::NotWellFormed: return QStringLiteral("Make it well-formed XML.");
+        case LookFileFault::None: break;
+        }
+        return QString();
+    }
+
     void check(const QVector<LookOverride> &overrides, const Kind &kind)
     {
-        QHash<QString, int> lines; // by name
+        QHash<QString, const LookOverride *> last; // by name: the one that counts
+        for (const LookOverride &override : overrides)
+            last.insert(override.name, &override);
+        QHash<QString, int> lines;
         for (const LookOverride &override : overrides) {
             if (!kind.keys.contains(override.name)) {
                 tellUnknown(override, kind);
@@ -58,11 +86,32 @@ private:
             if (lines.contains(override.name))
                 tellAgain(override, lines.value(override.name));
             lines.insert(override.name, override.line);
+            const bool isOverridden = last.value(override.name) != &override;
             if (kind.isColor)
-                checkColor(override);
-            else
+                checkColor(override, isOverridden);
+            else if (!isOverridden)
                 checkFamily(override);
         }
+    }
+
+    // Elements of other names may stand for order, or for another program. These are meant for the library: one that is
+    // called nearly like ours and has a name, one that names a key, one that is called like a key.
+    void checkOther(const OtherElement &other)
+    {
+        const QString near = nearest(other.element, {QStringLiteral("Color"), QStringLiteral("Font")});
+        const auto isLikeKey = [](const QString &text) {
+            return text.startsWith(QLatin1String("UIGCLR"), Qt::CaseInsensitive) ||
+                   text.startsWith(QLatin1String("UIGFONT"), Qt::CaseInsensitive);
+        };
+        const bool isMisspelt = !near.isEmpty() && !other.name.isEmpty() && other.isLeaf;
+        if (!isLikeKey(other.name) && !isLikeKey(other.element) && !isMisspelt)
+            return;
+        const QString meant =
+            isLikeKey(other.element)
+                ? QStringLiteral("Write <Color Name=\"%1\">RRGGBB</Color>.").arg(harmless(other.element))
+                : QStringLiteral("Name the element Color or Font, in this spelling.");
+        tell(Severity::Warning, other.line,
+             QStringLiteral("The library reads no element %1.").arg(quoted(other.element)), meant);
     }
 
     void tellUnknown(const LookOverride &override, const Kind &kind)
@@ -74,7 +123,7 @@ private:
         const QString near = nearest(override.name, kind.keys);
         tell(Severity::Warning, override.line,
              QStringLiteral("%1 is no key of a %2 and has no effect.").arg(quoted(override.name), kind.element),
-             near.isEmpty() ? QStringLiteral("Take it out, or see the list of keys.")
+             near.isEmpty() ? QStringLiteral("Take it out. All keys: lookcheck --keys")
                             : QStringLiteral("The nearest key is %1.").arg(near));
     }
 
@@ -85,33 +134,51 @@ private:
              QStringLiteral("Take one of the two out."));
     }
 
-    void checkColor(const LookOverride &override)
+    void checkColor(const LookOverride &override, bool isOverridden)
     {
         bool isNumber = false;
-        colorValue(override.text, &isNumber);
+        const quint32 value = colorValue(override.text, &isNumber);
         const auto digits = override.text.size();
         if (!isNumber)
-            tell(Severity::Error, override.line, whyNoColor(override),
+            tell(Severity::Error, override.line,
+                 whyNoColor(override) + (isOverridden ? QStringLiteral(".") : QStringLiteral(" and gives black.")),
                  QStringLiteral("Write RRGGBB in hexadecimal digits, without a #."));
+        else if (digits == digitsWithAlpha && value >> 24 != opaque)
+            tellAlpha(override, value);
         else if (digits != digitsWithoutAlpha && digits != digitsWithAlpha)
             tell(Severity::Warning, override.line,
-                 QStringLiteral("%1 has %2 characters and gives the colour #%3.")
-                     .arg(quoted(override.text), QString::number(digits),
-                          QString::number(colorValue(override.text) & 0xFFFFFF, 16)
-                              .rightJustified(digitsWithoutAlpha, QLatin1Char('0'))),
+                 QStringLiteral("%1 has %2 characters and gives the colour %3.")
+                     .arg(quoted(override.text), QString::number(digits), nameOf(value)),
                  QStringLiteral("Write all six digits, RRGGBB."));
     }
+
+    // The first two of eight digits are an alpha that has no effect. Who ends in FF has meant the last two.
+    void tellAlpha(const LookOverride &override, quint32 value)
+    {
+        const bool isAlphaLast = (value & 0xFF) == opaque;
+        tell(isAlphaLast ? Severity::Warning : Severity::Note, override.line,
+             QStringLiteral("Of %1 the first two digits have no effect: the colour is %2.")
+                 .arg(quoted(override.text), nameOf(value)),
+             isAlphaLast
+                 ? QStringLiteral("If it is meant as RRGGBBAA, write %1.").arg(override.text.left(digitsWithoutAlpha))
+                 : QStringLiteral("Colours of the look are opaque. Write RRGGBB."));
+    }
+
+    static QString nameOf(quint32 value) { return QColor::fromRgb(value).name().toUpper(); }
 
     static QString whyNoColor(const LookOverride &override)
     {
         if (override.text.isEmpty())
-            return QStringLiteral("%1 has no text and gives black.").arg(override.name);
+            return QStringLiteral("%1 has no text").arg(override.name);
         const QString text = quoted(override.text);
         if (override.text.startsWith(QLatin1Char('#')))
-            return QStringLiteral("%1 of %2 begins with a # and gives black.").arg(text, override.name);
-        if (override.text.size() > digitsWithAlpha)
-            return QStringLiteral("%1 of %2 is too long and gives black.").arg(text, override.name);
-        return QStringLiteral("%1 of %2 is no hexadecimal number and gives black.").arg(text, override.name);
+            return QStringLiteral("%1 of %2 begins with a #").arg(text, override.name);
+        const auto isHexadecimal = [](QChar character) {
+            return QStringLiteral("0123456789abcdef").contains(character.toLower());
+        };
+        if (std::all_of(override.text.cbegin(), override.text.cend(), isHexadecimal))
+            return QStringLiteral("%1 of %2 is too long").arg(text, override.name);
+        return QStringLiteral("%1 of %2 is no hexadecimal number").arg(text, override.name);
     }
 
     void checkFamily(const LookOverride &override)
@@ -139,14 +206,20 @@ private:
     int m_faults = 0;
 };
 
-// A file system that tells upper from lower case does not find "UiGraphics.xml".
+// A file system that tells upper from lower case does not find "UiGraphics.xml", and editors add ".txt".
 void checkFileName(const Look &look, Findings *findings)
 {
     const QDir folder(look.folder());
-    if (folder.exists(lookOverridesFile))
+    const QString wanted = folder.filePath(lookOverridesFile);
+    if (QFileInfo::exists(wanted))
         return;
-    for (const QString &name :
-         folder.entryList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name).mid(0, mostFaultsOfFile))
+    if (QFileInfo(wanted).isSymLink()) {
+        findings->add({Severity::Error, wanted, 0, QStringLiteral("This is a link to a file that is not there."),
+                       QStringLiteral("Let it lead to a file, or take it away.")});
+        return;
+    }
+    const QStringList names = {QStringLiteral("*.xml"), QStringLiteral("UIGraphics*")};
+    for (const QString &name : folder.entryList(names, QDir::Files, QDir::Name).mid(0, mostFaultsOfFile))
         if (!nearest(name, {lookOverridesFile}).isEmpty())
             findings->add(
                 {Severity::Warning, look.folder() + QLatin1Char('/') + harmless(name), 0,

@@ -3,6 +3,7 @@
 #include "ContrastCheck.h"
 #include "Findings.h"
 #include "FontCheck.h"
+#include "Languages.h"
 #include "Look.h"
 #include "Options.h"
 #include "Report.h"
@@ -45,10 +46,10 @@ void check(const lookcheck::Look &look, bool mayLackBitmaps, lookcheck::Findings
 
 int checkDirectory(const lookcheck::Options &options)
 {
+    lookcheck::Findings findings;
     QStringList languages{options.language};
     if (!options.hasLanguage)
-        languages += lookcheck::languagesOf(options.directory);
-    lookcheck::Findings findings;
+        languages += lookcheck::languagesOf(options.directory, &findings);
     for (const QString &language : languages)
         check(lookcheck::Look(options.directory, language), options.isPartial, &findings);
     if (options.isJson)
@@ -65,7 +66,12 @@ int writeSheet(const lookcheck::Options &options)
     if (!oversized.isEmpty())
         return cannotRun(QStringLiteral("'%1' is too large to be shown.").arg(oversized));
     const QString error = lookcheck::writeSheet(look, options.sheetFile, options.gallery);
-    return error.isEmpty() ? Clean : cannotRun(error);
+    if (!error.isEmpty())
+        return cannotRun(error);
+    const QStringList faults = lookcheck::faultsOfFiles(look);
+    for (const QString &fault : faults)
+        QTextStream(stderr) << QStringLiteral("lookcheck: %1\n").arg(fault);
+    return faults.isEmpty() ? Clean : Found;
 }
 
 int showText(const QString &text)
@@ -87,6 +93,8 @@ int main(int argc, char *argv[])
         return cannotRun(parsed.error);
     if (parsed.options.isHelpWanted)
         return showText(lookcheck::helpText());
+    if (parsed.options.areKeysWanted)
+        return showText(lookcheck::keysText());
     if (parsed.options.isVersionWanted)
         return showText(QStringLiteral("lookcheck " LOOKCHECK_VERSION "\n"));
     return parsed.options.sheetFile.isEmpty() ? checkDirectory(parsed.options) : writeSheet(parsed.options);

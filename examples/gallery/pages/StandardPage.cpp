@@ -1,19 +1,24 @@
 #include "Pages.h"
 
 #include "MakerTools.h"
+#include "Panels.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QStyleOptionFrame>
+#include <QStylePainter>
 #include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace gallery {
@@ -207,6 +212,49 @@ Make groupBox(bool isCheckable, bool isFlat)
     };
 }
 
+/** What Qt shows a tip in, for a picture: its own one stands above all windows and goes by itself. */
+class TipLabel : public QLabel
+{
+public:
+    TipLabel(const QString &text, QStyle *foreignStyle) : QLabel(text)
+    {
+        if (foreignStyle != nullptr)
+            setStyle(foreignStyle);
+        setForegroundRole(QPalette::ToolTipText);
+        setBackgroundRole(QPalette::ToolTipBase);
+        setPalette(QToolTip::palette());
+        setFont(QToolTip::font());
+        setMargin(1 + style()->pixelMetric(QStyle::PM_ToolTipLabelFrameWidth, nullptr, this));
+        setIndent(1);
+        style()->styleHint(QStyle::SH_ToolTipLabel_Opacity, nullptr, this); // shapes it
+        resize(wordWrap() ? QSize(width(), heightForWidth(width())) : sizeHint());
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QStylePainter painter(this);
+        QStyleOptionFrame option;
+        option.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_PanelTipLabel, option);
+        QLabel::paintEvent(event);
+    }
+};
+
+Row tip(const QString &caption, const std::function<QString(const SampleTexts &)> &textOf)
+{
+    return {caption,
+            [textOf](State, const MakerSettings &settings, QWidget *parent) {
+                return new Picture(TipLabel(textOf(settings.texts), settings.foreignStyle).grab(), parent);
+            }};
+}
+
+const std::vector<Row> tipRows = {
+    tip(QStringLiteral("One line"), [](const SampleTexts &texts) { return texts.printAll; }),
+    tip(QStringLiteral("Wrapped"), [](const SampleTexts &texts) { return texts.order.tip; }),
+    tip(QStringLiteral("Rich text"), richTip),
+};
+
 const std::vector<Column> states = {
     {QStringLiteral("Normal"), State::Normal},     {QStringLiteral("Hovered"), State::Hovered},
     {QStringLiteral("Focused"), State::Focused},   {QStringLiteral("Pressed"), State::Pressed},
@@ -292,6 +340,8 @@ PageDescription standardPage()
              table(fieldRows, states)},
             {QStringLiteral("Sliders, progress and groups"),
              QStringLiteral("Those in the last column of each table work."), table(otherRows, states)},
+            {QStringLiteral("Tool tips"), QStringLiteral("As they open over the controls above."),
+             table(tipRows, {{QString(), State::Normal}})},
         }};
 }
 
