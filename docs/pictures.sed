@@ -1,3 +1,4 @@
 # The pictures are made at build time, so the pages name them where readers of the Markdown do not stumble over them:
 # <!-- picture sliders.png: The sliders in every state -->
-s/^<!-- picture \([^ ]*\): \(.*\) -->$/![\2](\1)/
+# As HTML, since Doxygen's own picture has its words as a caption alone, and none for those who cannot see it.
+s|^<!-- picture \([^ ]*\): \(.*\) -->$|<div class="image"><img src="\1" alt="\2"><div class="caption">\2</div></div>|
