@@ -1,4 +1,4 @@
-# The programs of the installation do their work there: they find libraries, artwork and each other beside them.
+# The programs of the installation do their work there: they find libraries and artwork beside them.
 
 cmake_minimum_required(VERSION 3.23)
 include(${CMAKE_CURRENT_LIST_DIR}/Prefix.cmake)
