@@ -39,6 +39,23 @@ foreach(header IN LISTS public_headers)
 endforeach()
 install(DIRECTORY ${PROJECT_BINARY_DIR}/include/${package}/ DESTINATION ${package_include} COMPONENT development)
 
+# Manual pages: zel_install_manual(PROGRAM COMPONENT). Debian wants them compressed.
+
+function(zel_install_manual program component)
+    set(page ${PROJECT_BINARY_DIR}/man/${program}.1)
+    configure_file(${PROJECT_SOURCE_DIR}/docs/man/${program}.1.in ${page} @ONLY)
+    if(ZEL_PACKAGE)
+        find_program(ZEL_GZIP gzip REQUIRED)
+        execute_process(COMMAND ${ZEL_GZIP} -9nkf ${page} COMMAND_ERROR_IS_FATAL ANY)
+        string(APPEND page .gz)
+    endif()
+    install(FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+endfunction()
+zel_install_manual(lookcheck tools)
+if(ZEL_BUILD_EXAMPLES)
+    zel_install_manual(zel_gallery gallery)
+endif()
+
 # CMake packages
 
 install(EXPORT ZelCUtil03Targets NAMESPACE Zel:: DESTINATION ${utility_cmake} COMPONENT utility_dev)

@@ -29,13 +29,13 @@ function(package component name section synopsis content)
         COMPONENT ${component})
 endfunction()
 
-set(runtime libzelcmnctrl03-${qt}-${PROJECT_VERSION_MAJOR})
+set(runtime libzelcmnctrl03${qt}-${PROJECT_VERSION_MAJOR}) # after the SONAME
 set(qt_development_5 qtbase5-dev)
 set(qt_development_6 qt6-base-dev)
 package(library ${runtime} libs "controls and style of the house for Qt ${ZEL_QT_MAJOR}"
     "the library that applications run with"
     "libzelcutil03 ${exactly}" "zelcmnctrl03-data ${exactly}")
-package(development libzelcmnctrl03-${qt}-dev libdevel
+package(development libzelcmnctrl03${qt}-dev libdevel
     "controls and style of the house for Qt ${ZEL_QT_MAJOR} - development files"
     "what applications are built with"
     "${runtime} ${exactly}" "libzelcutil03-dev ${exactly}" "${qt_development_${ZEL_QT_MAJOR}} (>= ${ZEL_QT_MINIMUM})")
@@ -85,6 +85,8 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${control_files}/triggers ${contr
 if(ZEL_QT_MAJOR EQUAL 5)
     set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS qt5-style-plugin-plastique) # the base of the house style
 endif()
+set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS zelcmnctrl03-gallery) # makes the pictures of lookcheck --sheet
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS zelcmnctrl03-tools) # lookcheck, which zel_add_look_check runs
 set(CPACK_DEBIAN_DATA_PACKAGE_ARCHITECTURE all)
 
 set(CPACK_GENERATOR DEB)

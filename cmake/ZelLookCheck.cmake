@@ -21,7 +21,8 @@ function(zel_add_look_check)
         find_program(ZEL_LOOKCHECK lookcheck HINTS
             ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../../../bin ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../../../../bin)
         if(NOT ZEL_LOOKCHECK)
-            message(FATAL_ERROR "zel_add_look_check: lookcheck was not found. Set ZEL_LOOKCHECK to its path.")
+            message(FATAL_ERROR "zel_add_look_check: lookcheck was not found. On Debian it is in the package "
+                                "zelcmnctrl03-tools. If it is installed elsewhere, set ZEL_LOOKCHECK to its path.")
         endif()
         set(program ${ZEL_LOOKCHECK})
     endif()

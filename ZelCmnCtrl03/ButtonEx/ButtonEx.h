@@ -34,12 +34,16 @@ class ZELCMNCTRL_EXPORT CButtonEx : public QPushButton
     Q_PROPERTY(QString buttonStyle READ getButtonStyle WRITE setButtonStyle DESIGNABLE false)
     /** The same look as an enumerator, for editors that offer a choice. */
     Q_PROPERTY(CButtonStyles look READ buttonStyle WRITE setButtonStyle)
+    /** The text colour of the transparent look; see setTextColor(). */
     Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
+    /** Whether a small arrow promises a menu; see setChevron(). */
     Q_PROPERTY(bool chevron READ chevron WRITE setChevron)
     /** The image. Leaves the size, unlike setImage(). */
     Q_PROPERTY(QPixmap pixmap READ pixmap WRITE setPixmap)
     // Over those of the bases, whose setters the ones of this class hide.
+    /** The font of the label; see setFont(). */
     Q_PROPERTY(QFont font READ font WRITE setFont)
+    /** Whether Return presses the button in its dialog; see setDefault(). */
     Q_PROPERTY(bool default READ isDefault WRITE setDefault)
 
 public:
@@ -55,6 +59,7 @@ public:
     };
     Q_ENUM(CButtonStyles)
 
+    /** A button of the look BSEX_Normal, without text and image, under a hand cursor. */
     explicit CButtonEx(QWidget *parent = nullptr);
     ~CButtonEx() override;
 
@@ -62,7 +67,9 @@ public:
     void setButtonStyle(CButtonStyles style);
     /** Sets the look by its exact name; see the property. */
     void setButtonStyle(QString style);
+    /** The look in force. */
     const CButtonStyles &buttonStyle() const { return m_buttonStyle; }
+    /** The name of the look; empty after a text that is no name. */
     const QString &getButtonStyle() const { return m_sButtonStyle; }
     /** The name of a look, by the rule of setButtonStyle. */
     const QString &StyleToString(CButtonStyles style);
@@ -78,18 +85,22 @@ public:
     void setImage(const QString &path);
     /** Sets the image and leaves the size. */
     void setPixmap(const QPixmap &image);
+    /** The image; null while there is none. */
     const QPixmap &pixmap() const { return m_image; }
 
     /** Sets the font of the label, with antialiasing preferred. */
     void setFont(const QFont &font);
+    /** The font of the label: until setFont() the house font of the language. */
     const QFont &font() const { return m_font; }
 
     /** The text colour of the transparent look; white at first. Shows with the next repaint. */
     void setTextColor(const QColor &color);
+    /** The text colour of the transparent look, whatever look the button has. */
     const QColor &textColor() const { return m_textColor; }
 
     /** A small arrow that promises a menu, for the glowing and the transparent look. Shows with the next repaint. */
     void setChevron(bool on);
+    /** Whether there is an arrow. False at first; setMenu() turns it on. */
     bool chevron() const { return m_bChevron; }
 
     /**

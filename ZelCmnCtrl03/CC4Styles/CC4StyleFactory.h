@@ -31,6 +31,7 @@ public:
     Q_DECLARE_FLAGS(CC4Styles, Styles)
 
     CC4StyleFactory() = default;
+    /** Does nothing: factories have no state of their own. */
     CC4StyleFactory &operator=(const CC4StyleFactory &) { return *this; }
 
     /**

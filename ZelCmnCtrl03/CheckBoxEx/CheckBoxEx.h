@@ -28,6 +28,7 @@ class ZELCMNCTRL_EXPORT CCheckBoxEx : public QCheckBox
 public:
     /** With the text that QCheckBox has, and no separate label. */
     explicit CCheckBoxEx(QWidget *parent = nullptr);
+    /** With a text of the button itself, on one line, and no separate label. */
     explicit CCheckBoxEx(const QString &text, QWidget *parent = nullptr);
     /**
      * With a separate label of `width` pixels; the button is 40 pixels wider. Both have fixed sizes.

@@ -32,6 +32,7 @@ class ZELCMNCTRL_EXPORT CCustomIconButton : public QWidget
     Q_PROPERTY(QPixmap icon READ icon WRITE AddIcons)
 
 public:
+    /** A button without icon and tool tip, of a fixed size. */
     explicit CCustomIconButton(QWidget *parent = nullptr);
     ~CCustomIconButton() override;
 
@@ -49,6 +50,7 @@ public:
     /** Draws the icon as it is now, grey on a disabled button, with a painter in the button's coordinates. */
     void DrawIcons(QPainter *painter);
 
+    /** The text that was set last; what QWidget::toolTip() gives follows when the pointer enters. */
     const QString &toolTipText() const { return m_sToolTip; }
     /** Sets the tool tip that the pointer finds from now on; an empty text gives none. */
     void setToolTipText(const QString &text);

@@ -38,6 +38,7 @@ class ZELCMNCTRL_EXPORT CDropDownEx : public QComboBox
         bool toolTipsForDropDownElements READ hasToolTipsForDropDownElements WRITE enableToolTipsForDropDownElements)
 
 public:
+    /** An empty drop-down in the house font and text colours. */
     explicit CDropDownEx(QWidget *parent = nullptr);
     ~CDropDownEx() override;
 
@@ -64,6 +65,7 @@ public:
      * Items that are in the list already keep what they have until the list is filled the next time.
      */
     void enableToolTipsForDropDownElements(bool enable);
+    /** Whether items that are added from now on have their text as their tool tip. */
     bool hasToolTipsForDropDownElements() const { return m_bToolTipsForItems; }
 
     /** QWidget's; also makes the current text the tool tip of the box. */

@@ -17,6 +17,7 @@ class ZELCMNCTRL_EXPORT CFrame : public QFrame
     Q_PROPERTY(QColor gradientFrame READ gradientFrame WRITE SetGradientFrame)
 
 public:
+    /** A black rule. */
     explicit CFrame(QWidget *parent = nullptr);
     ~CFrame() override;
 

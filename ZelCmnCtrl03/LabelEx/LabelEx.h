@@ -23,6 +23,7 @@ class ZELCMNCTRL_EXPORT CLabelEx : public QLabel
     Q_PROPERTY(bool drag READ takesDrags WRITE setDrag)
 
 public:
+    /** A label without text, which takes no drags. */
     explicit CLabelEx(QWidget *parent = nullptr);
     ~CLabelEx() override;
 
@@ -34,6 +35,7 @@ public:
      * them.
      */
     void setDrag(bool enabled);
+    /** What setDrag() was given last; false before. */
     bool takesDrags() const { return m_bDrag; }
 
     /** True while a click has somebody to hear it, and the label is no part of a button. */

@@ -20,6 +20,7 @@ class ZELCMNCTRL_EXPORT CListBoxEx : public QListWidget
     Q_OBJECT
 
 public:
+    /** An empty list in the house font, with the delegate that shades selected rows. */
     explicit CListBoxEx(QWidget *parent = nullptr);
     ~CListBoxEx() override;
 

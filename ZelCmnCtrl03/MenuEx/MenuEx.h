@@ -27,6 +27,7 @@ class ZELCMNCTRL_EXPORT CMenuEx : public QMenu
     Q_OBJECT
 
 public:
+    /** An empty menu in the house font, with a hand cursor. */
     explicit CMenuEx(QWidget *parent = nullptr);
     /** A menu with a title, in the font, the cursor and the mouse tracking that a QMenu has. */
     explicit CMenuEx(const QString &title, QWidget *parent = nullptr);
@@ -45,6 +46,7 @@ public:
      */
     void popup(const QPoint &pos, QAction *at = nullptr);
 
+    /** Shows the menu by unrolling it; hides it at once. popup() and exec() come here, too. */
     void setVisible(bool visible) override;
 
     /** True from the pointer's entering the menu to its leaving. */

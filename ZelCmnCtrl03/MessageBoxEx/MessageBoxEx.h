@@ -123,12 +123,15 @@ public:
      */
     void setNoButton(bool noButton);
 
-    /** Without a check box: no effect, and false. */
+    /** Checks or unchecks the check box. A change fires signal_CheckBoxStateChanged(). No effect without a check box.
+     */
     void setCheckBoxState(bool checked);
+    /** Whether the check box is checked; false without one. */
     bool checkState();
 
     /** Lets the mouse resize the box by its right and bottom edge, between minimumSize() and the work area. */
     void setResizeable(bool resizeable);
+    /** What setResizeable() was given last; false before. */
     bool resizeable() const;
 
     /**
@@ -142,8 +145,13 @@ public:
     /** While set, the pointer on the title bar is Qt::SizeAllCursor. */
     void changeCursorShape(bool moveCursor);
 
-    /** New texts for a box of texts, which sizes itself anew and cannot be resized by the mouse from then on. */
+    /**
+     * A new line inside a box of texts, the one that the constructor calls `subTitle`; the title bar keeps its own. The
+     * box sizes itself anew and cannot be resized by the mouse from then on. A label never becomes lower than its first
+     * text has made it. In a box around a widget there is no such line, and no effect.
+     */
     void updateTitle(const QString &title);
+    /** A new description, likewise: for instance the seconds that are left, at each UpdateText(). */
     void updateDescription(const QString &description);
 
     /** What a box of texts wants: 440 pixels wide with three buttons, else 390, and more where its texts need it. */
@@ -158,13 +166,15 @@ Q_SIGNALS:
     void Popup_Notify(QString text);
     /** A button was clicked: its specifier. Fires before the box ends. */
     void Button_Hit(int button);
+    /** The box has come to another place, by the application, by the mouse or by being shown. */
     void MessageBox_Moved();
     /** Every second of a count-down: the moment for updateTitle() or updateDescription(). */
     void UpdateText();
     /** The close button of the title bar was clicked, after signal_CloseEvent(). */
     void signal_MesssageBoxClosed();
+    /** The help link of a box of texts was clicked; the box stays. Never fires from a box around a widget. */
     void signal_HelpLinkClicked();
-    /** A Qt::CheckState. */
+    /** The check box was changed, by the user or by setCheckBoxState(): a Qt::CheckState. */
     void signal_CheckBoxStateChanged(int state);
     /** The Escape key was pressed; the box stays until the application answers. */
     void signal_EscapePressed();

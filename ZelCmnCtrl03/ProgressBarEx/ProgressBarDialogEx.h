@@ -27,9 +27,11 @@ class ZELCMNCTRL_EXPORT CProgressBarDialogEx : public QWidget
     Q_OBJECT
 
 public:
+    /** A hidden panel with its label, on the window of `parent`; see showDialog(). */
     explicit CProgressBarDialogEx(const QString &label, QWidget *parent = nullptr);
     ~CProgressBarDialogEx() override;
 
+    /** The text that was set last, by the constructor or setLabel(). */
     const QString &label() const { return m_sLabel; }
     /**
      * Sets the text, which stays on one line, and repaints at once. The panel grows where the text and 60 pixels around

@@ -26,6 +26,7 @@ class ZELCMNCTRL_EXPORT CProgressBarEx : public QWidget
     Q_OBJECT
 
 public:
+    /** An indicator that scrolls from now on. */
     explicit CProgressBarEx(QWidget *parent = nullptr);
     ~CProgressBarEx() override;
 

@@ -31,12 +31,21 @@ public:
     explicit CProgressDialogEx(QWidget *parent = nullptr);
     ~CProgressDialogEx() override;
 
-    // As the QProgressBar has it. -1 if somebody has destroyed that; the setters then do nothing.
+    // Range and value are those of the QProgressBar. Where somebody has destroyed that, the setters do nothing.
+    /** The value at which the bar is empty; -1 without a bar. */
     int minimum() const;
+    /** The value at which the bar is full; -1 without a bar. */
     int maximum() const;
+    /** The value that was set last: -1 without a bar, less than minimum() after a reset(). */
     int value() const;
+    /** Sets the lower end of the range; see setRange(). A maximum that is less follows it. */
     void setMinimum(int minimum);
+    /** Sets the upper end of the range; see setRange(). A minimum that is greater follows it. */
     void setMaximum(int maximum);
+    /**
+     * Sets both ends. A maximum less than `minimum` counts as that. 0 and 0 is a busy bar without a value. A value that
+     * is outside of the new range is taken away, as reset() does.
+     */
     void setRange(int minimum, int maximum);
     /** A value outside of the range is ignored. */
     void setValue(int value);
@@ -45,6 +54,7 @@ public:
 
     /** The text over the bar, plain or rich; empty if somebody has destroyed its label. */
     QString text();
+    /** Sets the text, and tells it to assistive technology. No effect if somebody has destroyed its label. */
     void setText(const QString &text);
 
 private:

@@ -29,6 +29,7 @@ class ZELCMNCTRL_EXPORT CRadioButtonEx : public QRadioButton
 public:
     /** With the text that QRadioButton has, and no separate label. */
     explicit CRadioButtonEx(QWidget *parent = nullptr);
+    /** With a text of the button itself, on one line, and no separate label. */
     explicit CRadioButtonEx(const QString &text, QWidget *parent = nullptr);
     /**
      * With a separate label of `width` pixels; the button is 40 pixels wider. Both have fixed sizes.

@@ -32,7 +32,12 @@ public:
     explicit CRainbowProgressDialog(QWidget *parent = nullptr);
     ~CRainbowProgressDialog() override;
 
+    /**
+     * Sets the text of a row, plain or rich, and tells it to assistive technology. A row that was empty when the dialog
+     * was shown stays hidden.
+     */
     void setText(const QString &msg, int row);
+    /** Takes the text of a row away; the row keeps its room while the dialog is shown. */
     void clear(int row);
     /** The text of a row; empty for a row that does not exist. */
     QString text(int row);

@@ -33,7 +33,9 @@ class ZELCMNCTRL_EXPORT CDSliderEx : public QWidget
 {
     Q_OBJECT
     // The maximum puts the handles on its ends, so the position comes after it.
+    /** What the application calls its least value; see setMinimum(). */
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    /** The end of the track; see setMaximum(). */
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     /** The position of the active handle: on a form that of the lower one. */
     Q_PROPERTY(int sliderPosition READ sliderPosition WRITE setSliderPosition)

@@ -33,15 +33,20 @@ class ZELCMNCTRL_EXPORT CZoomSlider : public QWidget
 {
     Q_OBJECT
     // The range comes before the position, which it bounds.
+    /** The least value, which the smaller button leads to; 0 at first. */
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    /** The greatest value, which the larger button leads to; 99 at first. */
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    /** The value; see setSliderPosition(). */
     Q_PROPERTY(int sliderPosition READ sliderPosition WRITE setSliderPosition)
+    /** The image in place of the slider's drawn handle; see setKnobImage(). */
     Q_PROPERTY(QPixmap knobImage READ knobImage WRITE setKnobImage)
     /**
-     * The images of the buttons. Set as properties they also give their buttons the room that the constructor with
-     * images gives: a form is built without that one.
+     * The image of the button on the left. Set as a property it also gives the button the room that the constructor
+     * with images gives: a form is built without that one.
      */
     Q_PROPERTY(QPixmap smallerButtonImage READ smallerButtonImage WRITE fitSmallerButtonImage)
+    /** The image of the button on the right, likewise. */
     Q_PROPERTY(QPixmap largerButtonImage READ largerButtonImage WRITE fitLargerButtonImage)
     /** See setSliderToSnapping(). */
     Q_PROPERTY(bool sliderToSnapping READ isSliderToSnapping WRITE setSliderToSnapping)
@@ -63,28 +68,44 @@ public:
     /** Called by the constructors. A further call only turns snapping off. */
     void Initialize();
 
-    /** The image in place of the slider's drawn handle; see CSliderEx::setKnobImage(). */
+    /**
+     * Sets the image in place of the slider's drawn handle from a file path; see CSliderEx::setKnobImage(). A file that
+     * is no image brings the drawn handle back.
+     */
     void setKnobImage(const QString &path);
+    /** The same with an image; a null one brings the drawn handle back. */
     void setKnobImage(const QPixmap &image);
+    /** The image in place of the drawn handle; null while there is none. */
     const QPixmap &knobImage() const;
 
     /**
-     * The images of the buttons. An image larger than the one that the control was constructed with is cut, by all that
-     * exceeds 4 pixels.
+     * Sets the image of the button on the left from a file path. An image larger than the one that the control was
+     * constructed with is cut, by all that exceeds 4 pixels. A file that is no image leaves the button empty.
      */
     void setSmallerButtonImage(const QString &path);
+    /** The same with an image. */
     void setSmallerButtonImage(const QPixmap &image);
+    /** The image of the button on the left; null while there is none. */
     const QPixmap &smallerButtonImage() const;
+    /** Sets the image of the button on the right, as setSmallerButtonImage() does for the other one. */
     void setLargerButtonImage(const QString &path);
+    /** The same with an image. */
     void setLargerButtonImage(const QPixmap &image);
+    /** The image of the button on the right; null while there is none. */
     const QPixmap &largerButtonImage() const;
 
-    /** The range and the position of the slider, 0 to 99 and 0 at first. Moving it emits as a drag does. */
+    /** Sets the upper end of the range, which is 0 to 99 at first. A minimum that is greater follows it. */
     void setMaximum(int maximum);
+    /** The upper end of the range. */
     int maximum() const;
+    /** Sets the lower end of the range. A maximum that is less follows it. */
     void setMinimum(int minimum);
+    /** The lower end of the range. */
     int minimum() const;
+    /** Moves the slider, and emits as a drag does where that changes the value. What is out of range ends at the range.
+     */
     void setSliderPosition(int position);
+    /** The position of the slider, which is the value; 0 at first. */
     int sliderPosition() const;
 
     /**
@@ -95,6 +116,7 @@ public:
 
     /** Whether changes that come from the slider are told by signal_SliderMoved() in place of zoomChanged(). */
     void setSliderToSnapping(bool on);
+    /** What setSliderToSnapping() was given last; false before, and again after Initialize(). */
     bool isSliderToSnapping() const;
 
 Q_SIGNALS:
@@ -128,9 +150,12 @@ protected:
 
     void d_zel_func_CZoomSlider(CZoomSliderPrivate **out);
 
-    // A press of any button in them, in pixels of this widget, sends the slider to its minimum or maximum. Null, and so
-    // without effect, unless a derived class sets them.
+    /**
+     * A press of any mouse button in it, in pixels of this widget, sends the slider to its minimum. Null, and so
+     * without effect, unless a derived class sets it.
+     */
     QRect smallerRect;
+    /** The same for the maximum. */
     QRect largerRect;
 
 private:

@@ -18,6 +18,7 @@ class ZELCMNCTRL_EXPORT CTextBoxEx : public QLineEdit
     Q_OBJECT
     /** The look. It sets the text colour too, so it comes before that one. */
     Q_PROPERTY(CLineEditStyles lineEditStyle READ lineEditStyle WRITE setLineEditStyle)
+    /** The colour of the text in the active window; see setLineEditColor(). */
     Q_PROPERTY(CLineEditColor lineEditColor READ lineEditColor WRITE setLineEditColor)
 
 public:
@@ -38,6 +39,7 @@ public:
     };
     Q_ENUM(CLineEditColor)
 
+    /** An empty text box of the look LineEditTransparent with blue text, in the house font. */
     explicit CTextBoxEx(QWidget *parent = nullptr);
     ~CTextBoxEx() override;
 
@@ -45,6 +47,7 @@ public:
     const bool &isMouseOver() const { return m_bMouseOver; }
     /** True from the focus-in event to the focus-out event. */
     const bool &isFocussed() const { return m_bFocussed; }
+    /** The look that was set last, as it was given. */
     const CLineEditStyles &lineEditStyle() const { return m_lineEditStyle; }
     /** The text colour that was set last, by either of the two setters. */
     const CLineEditColor &lineEditColor() const { return m_lineEditColor; }

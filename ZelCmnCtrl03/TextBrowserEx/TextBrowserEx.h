@@ -19,6 +19,7 @@ class ZELCMNCTRL_EXPORT CTextBrowserEx : public QTextBrowser
     Q_OBJECT
 
 public:
+    /** A browser without a document. */
     explicit CTextBrowserEx(QWidget *parent = nullptr);
     ~CTextBrowserEx() override;
 

@@ -23,6 +23,7 @@ class ZELCMNCTRL_EXPORT CTitleButton : public QWidget
     Q_PROPERTY(QPixmap icon READ icon WRITE keepIcon)
 
 public:
+    /** A button without icon, of a fixed size. */
     explicit CTitleButton(QWidget *parent = nullptr);
     ~CTitleButton() override;
 

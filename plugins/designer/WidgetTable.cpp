@@ -47,7 +47,7 @@ QString horizontal()
 
 } // namespace
 
-// Windows of their own have no place on a form: CMenuEx, CProgressBarDialogEx, CProgressDialogEx and
+// Windows of their own have no place on a form: CMenuEx, CMessageBoxEx, CProgressBarDialogEx, CProgressDialogEx and
 // CRainbowProgressDialog are left out.
 const QVector<WidgetRow> &widgetTable()
 {

@@ -19,8 +19,23 @@ foreach(major ${MAJOR} ${OTHER_MAJOR})
     endif()
 endforeach()
 
-# run_consumer(PROGRAM MAJOR): with nothing of this build in sight.
+# run_alone(WHAT MAJOR COMMAND...): with nothing of this build in sight.
+function(run_alone what major)
+    run("${what}" ${CMAKE_COMMAND} -E env --unset=ZEL_GRAPHICS_DIR --unset=LD_LIBRARY_PATH
+        QT_PLUGIN_PATH=${prefix}/${LIBDIR}/qt${major}/plugins ${ARGN})
+endfunction()
+
+# run_consumer(PROGRAM MAJOR): which loads each plugin that the build for this Qt has made.
 function(run_consumer program major)
-    run("${program}" ${CMAKE_COMMAND} -E env --unset=ZEL_GRAPHICS_DIR --unset=LD_LIBRARY_PATH ${ARGN}
-        QT_PLUGIN_PATH=${prefix}/${LIBDIR}/qt${major}/plugins ${program})
+    set(build ${BUILD})
+    if(NOT major EQUAL MAJOR)
+        set(build ${OTHER_BUILD})
+    endif()
+    set(plugins_dir ${LIBDIR}/qt${major}/plugins)
+    file(GLOB plugins RELATIVE ${build} ${build}/${plugins_dir}/*/*.so)
+    list(TRANSFORM plugins PREPEND ${prefix}/)
+    if(NOT plugins)
+        message(FATAL_ERROR "${build} has no plugins.")
+    endif()
+    run_alone("${program}" ${major} ${program} ${plugins})
 endfunction()

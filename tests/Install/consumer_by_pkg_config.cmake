@@ -14,9 +14,10 @@ foreach(major IN LISTS majors)
     separate_arguments(flags UNIX_COMMAND "${flags}")
     execute_process(COMMAND ${pkg_config} --variable=translationsdir OUTPUT_VARIABLE translations_dir
         OUTPUT_STRIP_TRAILING_WHITESPACE)
+    execute_process(COMMAND ${pkg_config} --variable=libdir OUTPUT_VARIABLE library_dir OUTPUT_STRIP_TRAILING_WHITESPACE)
     set(program ${WORK_DIR}/${module})
     # Qt wants -fPIC of its applications. CMake's packages say so, Qt 5's modules of pkg-config do not.
     run("Building" ${COMPILER} -std=c++17 -fPIC ${SOURCES}/tests/consumer/main.cpp -o ${program} ${flags}
-        -DTRANSLATIONS_DIR="${translations_dir}")
-    run_consumer(${program} ${major} LD_LIBRARY_PATH=${prefix}/${LIBDIR})
+        -Wl,-rpath,${library_dir} -DTRANSLATIONS_DIR="${translations_dir}")
+    run_consumer(${program} ${major})
 endforeach()

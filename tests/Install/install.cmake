@@ -3,22 +3,34 @@
 cmake_minimum_required(VERSION 3.23)
 include(${CMAKE_CURRENT_LIST_DIR}/Prefix.cmake)
 
-# is_newer(RESULT FILE GLOB...): whether the file is there and newer than all sources of these names.
+# is_newer(RESULT FILE SOURCE...): whether the file is there and newer than all of these.
 function(is_newer result file)
-    file(GLOB_RECURSE sources ${ARGN})
     set(${result} TRUE PARENT_SCOPE)
-    foreach(source IN LISTS sources)
+    foreach(source IN LISTS ARGN)
         if(NOT EXISTS ${file} OR ${source} IS_NEWER_THAN ${file})
             set(${result} FALSE PARENT_SCOPE)
         endif()
     endforeach()
 endfunction()
 
+# find_recipe(RESULT FILE): the sources that this build.ninja was made of. Not all of cmake/ is: only packages read some.
+function(find_recipe result file)
+    set(rule)
+    if(EXISTS ${file})
+        file(STRINGS ${file} rule REGEX "^build build\\.ninja[ :]")
+    endif()
+    string(REGEX MATCHALL "${SOURCES}/[^ ]+" files "${rule}")
+    list(FILTER files EXCLUDE REGEX "^${OTHER_BUILD}/")
+    set(${result} ${files} PARENT_SCOPE)
+endfunction()
+
 unset(ENV{DESTDIR})
 file(REMOVE_RECURSE ${first_prefix} ${prefix})
 # An old build for the other Qt would say nothing about these sources.
-is_newer(is_configured ${OTHER_BUILD}/build.ninja ${SOURCES}/ZelC*/CMakeLists.txt ${SOURCES}/cmake/*)
-is_newer(is_built ${OTHER_BUILD}/${LIBDIR}/libZelCmnCtrl03Qt${OTHER_MAJOR}.so ${SOURCES}/ZelCmnCtrl03/*.h)
+find_recipe(recipe ${OTHER_BUILD}/build.ninja)
+file(GLOB_RECURSE sources ${SOURCES}/ZelCmnCtrl03/*.h)
+is_newer(is_configured ${OTHER_BUILD}/build.ninja ${SOURCES}/CMakeLists.txt ${recipe})
+is_newer(is_built ${OTHER_BUILD}/${LIBDIR}/libZelCmnCtrl03Qt${OTHER_MAJOR}.so ${sources})
 if(is_configured AND is_built)
     run("Installing for Qt ${OTHER_MAJOR}" ${CMAKE_COMMAND} --install ${OTHER_BUILD} --prefix ${first_prefix} --strip)
 else()

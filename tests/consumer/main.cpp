@@ -1,10 +1,12 @@
 // An application of the installed library. It says what is wrong with the installation, and ends with 0 if nothing is.
+// Its arguments are plugins that can be loaded.
 
 #include <ZelCmnCtrl03/CButtonEx>
 #include <ZelCmnCtrl03/ZelCmnCtrl03Version>
 
 #include <QApplication>
 #include <QImage>
+#include <QPluginLoader>
 #include <QSet>
 #include <QStyleFactory>
 #include <QTranslator>
@@ -31,6 +33,16 @@ bool report(bool isGood, const char *complaint)
     return isGood;
 }
 
+bool canLoad(const QStringList &plugins)
+{
+    bool isGood = true;
+    for (const QString &name : plugins) {
+        QPluginLoader plugin(name);
+        isGood &= report(plugin.load(), qPrintable(plugin.errorString()));
+    }
+    return isGood;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -43,5 +55,6 @@ int main(int argc, char *argv[])
     isGood &= report(hasFace(button), "a button has no face: the artwork is not found");
     isGood &= report(QStyleFactory::keys().contains(QStringLiteral("cc4")), "the style plugin is not found");
     isGood &= report(QTranslator().load("zelcmnctrl03_en", TRANSLATIONS_DIR), "the catalogues are not found");
+    isGood &= canLoad(QApplication::arguments().mid(1));
     return isGood ? 0 : 1;
 }
