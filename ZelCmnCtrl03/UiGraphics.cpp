@@ -19,6 +19,7 @@ QString CUIGraphics::m_sLanguage;
 QString CUIGraphics::m_sGraphicsDir;
 QMap<QString, quint32> CUIGraphics::m_colorMap;
 QMap<QString, QString> CUIGraphics::m_fontMap;
+QHash<QString, bool> CUIGraphics::m_mayLoad;
 LookUse CUIGraphics::m_use;
 
 namespace {
@@ -134,7 +135,7 @@ void CUIGraphics::ReadUIGraphicsXml(const QString &path)
     ZEL_LOG_SCOPE_OF(zel::UiGraphics);
     ZEL_UIG_DETAIL(QStringLiteral("CUIGraphics::ReadUIGraphicsXml : ") + path);
     const LookOverrides overrides = readLookOverrides(path);
-    m_use.xmlRead.append(ReadXml{path, 0, 0, {}});
+    m_use.xmlRead.append(ReadXml{path, 0, 0, {}, overrides.error});
     m_use.xmlRead.last().colors = apply(
         overrides.colors, m_colorMap, [](const QString &text) { return colorValue(text); });
     m_use.xmlRead.last().families = apply(overrides.fonts, m_fontMap, [](const QString &text) { return text; });

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QHash>
 #include <QIcon>
 #include <QImage>
 #include <QMap>
@@ -78,6 +79,8 @@ private:
     static bool loadUtilityLibrary();
     static void GetCULValues(const QString &key);
     static QString pathOfBitmap(const QString &fileName);
+    static QString pathToLoad(const QString &fileName);
+    static bool mayLoad(const QString &path);
     template <typename Picture>
     static Picture checked(const Picture &picture, const QString &path);
     static void initializeColorMap();
@@ -101,6 +104,7 @@ private:
     static QString m_sGraphicsDir;
     static QMap<QString, quint32> m_colorMap;
     static QMap<QString, QString> m_fontMap;
+    static QHash<QString, bool> m_mayLoad; // by path
     static LookUse m_use;
 };
 
@@ -126,7 +130,8 @@ QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic);
 QFont UIGGetFont(const QString &name);
 
 /**
- * A bitmap of the graphics directory by bare file name; null when the file is not found or no image.
+ * A bitmap of the graphics directory by bare file name; null when the file is not found, no image, or more than 4096
+ * pixels wide or high.
  *
  * For a `devicePixelRatio` above 1 a "name@2x.png" beside "name.png" wins; the pixmap then says so by its own ratio.
  */

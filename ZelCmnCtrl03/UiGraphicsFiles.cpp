@@ -6,8 +6,18 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
 
 namespace {
+
+// Pixels, far beyond any control. A file of some kilobytes may hold a bitmap that fills the memory.
+constexpr int largestBitmapSide = 4096;
+
+bool isOfSoundSize(const QSize &size)
+{
+    return size.width() <= largestBitmapSide && size.height() <= largestBitmapSide;
+}
 
 QString withDisplayNames(const QString &path, QChar separator)
 {
@@ -69,6 +79,31 @@ QString CUIGraphics::pathOfBitmap(const QString &fileName)
     return path;
 }
 
+// Found out once per file: its header has to be read for that. Opening a pipe would wait for its writer.
+bool CUIGraphics::mayLoad(const QString &path)
+{
+    const auto known = m_mayLoad.constFind(path);
+    if (known != m_mayLoad.constEnd())
+        return *known;
+    const bool may = QFileInfo(path).isFile() && isOfSoundSize(QImageReader(path).size());
+    m_mayLoad.insert(path, may);
+    if (may)
+        return true;
+    m_use.unreadableBitmaps.insert(path);
+    ZEL_LOG(
+        zel::LogError, zel::UiGraphics,
+        QStringLiteral("CUIGraphics::mayLoad : %1 is not loaded: it is no file, or more than %2 pixels wide or high")
+            .arg(path)
+            .arg(largestBitmapSide));
+    return false;
+}
+
+QString CUIGraphics::pathToLoad(const QString &fileName)
+{
+    const QString path = pathOfBitmap(fileName);
+    return !path.isEmpty() && mayLoad(path) ? path : QString();
+}
+
 template <typename Picture>
 Picture CUIGraphics::checked(const Picture &picture, const QString &path)
 {
@@ -101,11 +136,11 @@ QString CUIGraphics::UIGetLocalizedPath(const QString &nonLocalizedPath)
 QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::pathOfBitmap(fileName);
+    const QString path = CUIGraphics::pathToLoad(fileName);
     if (path.isEmpty())
         return QPixmap();
     const QString twin = devicePixelRatio > 1.0 ? doubleResolutionPath(path) : QString();
-    if (!QFile::exists(twin))
+    if (!QFile::exists(twin) || !CUIGraphics::mayLoad(twin))
         return CUIGraphics::checked(QPixmap(path), path);
     QPixmap pixmap(twin);
     pixmap.setDevicePixelRatio(2.0); // also where Qt was told not to read it from the name
@@ -115,13 +150,13 @@ QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
 QImage UIGGetImage(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::pathOfBitmap(fileName);
+    const QString path = CUIGraphics::pathToLoad(fileName);
     return path.isEmpty() ? QImage() : CUIGraphics::checked(QImage(path), path);
 }
 
 QIcon UIGGetIcon(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::pathOfBitmap(fileName);
+    const QString path = CUIGraphics::pathToLoad(fileName);
     return path.isEmpty() ? QIcon() : QIcon(path);
 }

@@ -14,6 +14,7 @@ struct ReadXml
     int colors = 0;      // that it has replaced
     int families = 0;    // likewise
     QStringList notAKey; // names that the registry does not know, as they were met
+    QString problem;     // why the file has no effect at all; empty for one that was read
 };
 
 /** One font that the registry hands out. */

@@ -9,7 +9,8 @@ namespace {
 class LookXmlReader
 {
 public:
-    explicit LookXmlReader(QIODevice *device) : m_xml(device) {}
+    // No text that counts is longer than an entity may be. Of a longer one a few thousand mentions fill the memory.
+    explicit LookXmlReader(QIODevice *device) : m_xml(device) { m_xml.setEntityExpansionLimit(longestOverrideText); }
 
     LookOverrides read()
     {
@@ -119,8 +120,11 @@ LookOverrides readLookOverrides(const QString &path)
     // Only a file: opening a pipe would wait for its writer.
     QFile file(path);
     LookOverrides nothing;
-    if (!QFileInfo(path).isFile())
+    const QFileInfo info(path);
+    if (!info.isFile())
         nothing.error = QStringLiteral("This is no file.");
+    else if (info.size() > largestOverridesFile)
+        nothing.error = QStringLiteral("The file is larger than a megabyte and was not read.");
     else if (!file.open(QIODevice::ReadOnly))
         nothing.error = file.errorString();
     return nothing.error.isEmpty() ? LookXmlReader(&file).read() : nothing;

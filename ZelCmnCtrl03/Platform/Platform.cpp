@@ -74,7 +74,8 @@ bool registerPrivateFont(const QString &path)
     // The font database ends the process when it is asked before there is an application object.
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr)
         return false;
-    return QFontDatabase::addApplicationFont(path) != -1;
+    // Only a file: reading a pipe would wait for its writer.
+    return QFileInfo(path).isFile() && QFontDatabase::addApplicationFont(path) != -1;
 }
 
 QString displayName(const QString &path)

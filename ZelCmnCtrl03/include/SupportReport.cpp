@@ -147,10 +147,12 @@ void addUtilityLibrary(Lines &lines, const LookUse &use)
 
 QString describe(const ReadXml &xml)
 {
-    QString text = QStringLiteral("%1: %2 colours, %3 fonts").arg(xml.path).arg(xml.colors).arg(xml.families);
+    if (!xml.problem.isEmpty())
+        return QStringLiteral("%1: no effect: %2").arg(xml.path, xml.problem);
+    const QString text = QStringLiteral("%1: %2 colours, %3 fonts").arg(xml.path).arg(xml.colors).arg(xml.families);
     if (!xml.notAKey.isEmpty())
         return text + QStringLiteral("; no keys: ") + xml.notAKey.join(QStringLiteral(", "));
-    return xml.colors + xml.families > 0 ? text : text + QStringLiteral("; empty, or not well-formed");
+    return text;
 }
 
 void addXml(Lines &lines, const LookUse &use)

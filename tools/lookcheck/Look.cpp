@@ -14,11 +14,7 @@ OverridesFile readFile(const QString &path)
 {
     OverridesFile file;
     file.path = path;
-    const QFileInfo info(path);
-    if (info.isFile() && info.size() > largestOverridesFile)
-        file.overrides.error = QStringLiteral("The file is larger than a megabyte and was not read.");
-    else
-        file.overrides = readLookOverrides(path);
+    file.overrides = readLookOverrides(path);
     return file;
 }
 

@@ -28,9 +28,6 @@ struct OverridesFile
     LookOverrides overrides; // with an error of its own also for a file that is refused as too large
 };
 
-/** What is larger is not read: the file of all keys has some 20 kilobytes. */
-constexpr qint64 largestOverridesFile = qint64(1024) * 1024;
-
 class Look
 {
 public:
