@@ -42,7 +42,7 @@ QByteArray billionLaughs()
     return entities + "]><a>&l29;" + override + "</a>";
 }
 
-constexpr int hugeSide = 12000; // some kilobytes as a file, some hundred megabytes as a pixmap
+constexpr int hugeSide = 9000; // some kilobytes as a file, some hundred megabytes as a pixmap
 
 QByteArray png(int side)
 {
@@ -205,7 +205,6 @@ void tst_LookFaults::everyPageIsPainted_data()
     QTest::addColumn<QByteArray>("bitmap");
     QTest::newRow("no directory") << QByteArray();
     QTest::newRow("huge bitmaps") << png(hugeSide);
-    QTest::newRow("damaged bitmaps") << QByteArray("\x89PNG\r\n\x1a\n");
     QTest::newRow("bitmaps of a pixel") << QByteArray("P6 1 1 255\nabc");
 }
 
