@@ -1,0 +1,88 @@
+#include "Census.h"
+
+#include <ZelCmnCtrl03/CC4StyleFactory>
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QFile>
+#include <QSet>
+#include <QWidget>
+
+#include <memory>
+
+#include <malloc.h>
+#include <unistd.h>
+
+namespace {
+
+long residentKilobytes()
+{
+    malloc_trim(0);
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLong() * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+int runningTimers()
+{
+    QSet<const QObject *> objects;
+    QList<QObject *> roots{qApp};
+    for (QWidget *widget : QApplication::allWidgets())
+        roots.append(widget);
+    for (QObject *root : roots) {
+        objects.insert(root);
+        for (const QObject *child : root->findChildren<QObject *>())
+            objects.insert(child);
+    }
+    int timers = 0;
+    for (const QObject *object : objects)
+        timers += int(QAbstractEventDispatcher::instance()->registeredTimers(const_cast<QObject *>(object)).size());
+    return timers;
+}
+
+// A style that nobody holds is forgotten, and the next one who asks gets another.
+bool isForgotten(CC4StyleFactory::CC4Styles kind)
+{
+    const QStyle *first = CC4StyleFactory::getStyle(kind);
+    const std::unique_ptr<const QStyle> owned(kind == CC4StyleFactory::TBWStyle ? first : nullptr);
+    CC4StyleFactory::releaseStyle(kind);
+    const QStyle *second = CC4StyleFactory::getStyle(kind);
+    const std::unique_ptr<const QStyle> alsoOwned(kind == CC4StyleFactory::TBWStyle && second != first ? second
+                                                                                                       : nullptr);
+    CC4StyleFactory::releaseStyle(kind);
+    return first != second;
+}
+
+} // namespace
+
+Census Census::take()
+{
+    Census census;
+    census.widgets = int(QApplication::allWidgets().size());
+    census.timers = runningTimers();
+    census.pixmapCacheLimit = QPixmapCache::cacheLimit();
+    census.residentKilobytes = ::residentKilobytes();
+    return census;
+}
+
+QString Census::heading()
+{
+    return QStringLiteral("                  resident KB   widgets   timers   pixmap cache limit KB");
+}
+
+QString Census::row(const QString &when) const
+{
+    return QStringLiteral("%1 %2 %3 %4 %5")
+        .arg(when, -16)
+        .arg(residentKilobytes, 12)
+        .arg(widgets, 9)
+        .arg(timers, 8)
+        .arg(pixmapCacheLimit, 23);
+}
+
+bool areStylesReleased()
+{
+    return isForgotten(CC4StyleFactory::CC4Style) && isForgotten(CC4StyleFactory::TBWStyle) &&
+           isForgotten(CC4StyleFactory::BlueScrollStyle);
+}
