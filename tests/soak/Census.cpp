@@ -8,9 +8,13 @@
 #include <QSet>
 #include <QWidget>
 
+#include <algorithm>
 #include <memory>
 
 #include <malloc.h>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#endif
 #include <unistd.h>
 
 namespace {
@@ -24,11 +28,32 @@ long residentKilobytes()
     return file.readAll().split(' ').value(1).toLong() * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
+// What is in use of what has been allocated.
+long heapKilobytes()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return long(__sanitizer_get_current_allocated_bytes() / 1024);
+#else
+    const auto info = mallinfo2();
+    return long((info.uordblks + info.hblkhd) / 1024);
+#endif
+}
+
+// Without the desktop's, which Qt 5 makes when it needs it and keeps.
+QWidgetList widgets()
+{
+    QWidgetList widgets = QApplication::allWidgets();
+    widgets.erase(std::remove_if(widgets.begin(), widgets.end(),
+                                 [](const QWidget *widget) { return widget->windowType() == Qt::Desktop; }),
+                  widgets.end());
+    return widgets;
+}
+
 int runningTimers()
 {
     QSet<const QObject *> objects;
     QList<QObject *> roots{qApp};
-    for (QWidget *widget : QApplication::allWidgets())
+    for (QWidget *widget : widgets())
         roots.append(widget);
     for (QObject *root : roots) {
         objects.insert(root);
@@ -59,22 +84,32 @@ bool isForgotten(CC4StyleFactory::CC4Styles kind)
 Census Census::take()
 {
     Census census;
-    census.widgets = int(QApplication::allWidgets().size());
+    census.widgets = int(::widgets().size());
     census.timers = runningTimers();
     census.pixmapCacheLimit = QPixmapCache::cacheLimit();
+    census.heapKilobytes = ::heapKilobytes();
     census.residentKilobytes = ::residentKilobytes();
     return census;
 }
 
+QString Census::widgetClasses()
+{
+    QStringList classes;
+    for (const QWidget *widget : ::widgets())
+        classes.append(QLatin1String(widget->metaObject()->className()));
+    return classes.join(QLatin1Char(' '));
+}
+
 QString Census::heading()
 {
-    return QStringLiteral("                  resident KB   widgets   timers   pixmap cache limit KB");
+    return QStringLiteral("                       heap KB  resident KB   widgets   timers   pixmap cache limit KB");
 }
 
 QString Census::row(const QString &when) const
 {
-    return QStringLiteral("%1 %2 %3 %4 %5")
+    return QStringLiteral("%1 %2 %3 %4 %5 %6")
         .arg(when, -16)
+        .arg(heapKilobytes, 12)
         .arg(residentKilobytes, 12)
         .arg(widgets, 9)
         .arg(timers, 8)

@@ -6,12 +6,15 @@
 
 struct Census
 {
-    long residentKilobytes = 0;
+    long heapKilobytes = 0;     // in use
+    long residentKilobytes = 0; // with what the sanitizers remember, each new stack for good
     int widgets = 0;
     int timers = 0; // running, of widgets and of what belongs to them or to the application
     int pixmapCacheLimit = 0;
 
     static Census take();
+    /** The classes of all widgets, for a report. */
+    static QString widgetClasses();
     QString row(const QString &when) const;
     static QString heading();
 };

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <QWindow>
 
@@ -84,8 +85,9 @@ void RandomUser::closeSomething()
     if (m_quietTicks++ > 0)
         return;
     QCursor::setPos(0, 0);
+    QToolTip::hideText(); // which destroys its label, other than closing it
     for (QWidget *window : QApplication::topLevelWidgets())
-        if (window != m_main && window->isVisible())
+        if (window != m_main && window->isVisible() && window->windowType() != Qt::ToolTip)
             window->close();
     m_main->resize(largest);
     m_main->pageList()->setCurrentRow(1); // a page that is new, also where the first one was shown

@@ -23,8 +23,18 @@ constexpr int wrongArguments = 2;
 constexpr double defaultMinutes = 10;
 constexpr int fewestStages = 4; // each ends with a count
 constexpr double warmUp = 0.3;  // of all stages: caches fill, and the sanitizer's quarantine
-constexpr long slackKilobytes = 8 * 1024;
-constexpr double slackShare = 0.05;
+constexpr long slackKilobytes = 4 * 1024;
+constexpr double heapSlack = 0.05;
+#ifdef __SANITIZE_ADDRESS__
+constexpr double residentSlack = 0.4;
+#else
+constexpr double residentSlack = 0.1;
+#endif
+
+long bound(long kilobytes, double slack)
+{
+    return kilobytes + slackKilobytes + long(double(kilobytes) * slack);
+}
 
 QStringList warnings;
 
@@ -115,12 +125,14 @@ private:
     void judge(const Census &after)
     {
         const Census &warm = m_counts.at(std::size_t(m_stages * warmUp));
-        const long most = warm.residentKilobytes + slackKilobytes + long(double(warm.residentKilobytes) * slackShare);
-        expect(m_counts.back().residentKilobytes <= most, QStringLiteral("resident memory has grown"));
+        const Census &last = m_counts.back();
+        expect(last.heapKilobytes <= bound(warm.heapKilobytes, heapSlack), QStringLiteral("the heap has grown"));
+        expect(last.residentKilobytes <= bound(warm.residentKilobytes, residentSlack),
+               QStringLiteral("resident memory has grown"));
         expect(m_counts.back().widgets == m_counts.front().widgets,
                QStringLiteral("the number of widgets has changed"));
         expect(m_counts.back().timers == m_counts.front().timers, QStringLiteral("the number of timers has changed"));
-        expect(after.widgets == m_before.widgets, QStringLiteral("widgets are left over"));
+        expect(after.widgets == m_before.widgets, QStringLiteral("widgets are left over: ") + Census::widgetClasses());
         expect(after.timers == m_before.timers, QStringLiteral("timers are left over"));
         expect(after.pixmapCacheLimit == m_before.pixmapCacheLimit,
                QStringLiteral("the pixmap cache has another limit"));
