@@ -12,10 +12,12 @@
 #include <memory>
 
 #include <malloc.h>
-#ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
-#endif
 #include <unistd.h>
+
+#ifdef __SANITIZE_ADDRESS__
+// Of the sanitizer's runtime; GCC does not always come with the header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // NOLINT(bugprone-reserved-identifier): its name
+#endif
 
 namespace {
 
