@@ -88,6 +88,8 @@ private:
     static void GetCULValues(const QString &key);
     static FoundFile findFile(const QString &fileName);
     static FoundFile findBitmap(const QString &fileName);
+    static bool mayLoad(const FoundFile &file);
+    static QPixmap loadedPixmap(const FoundFile &file, qreal ratio);
     template <typename Picture>
     static Picture checked(const Picture &picture, const QString &path);
     static void initializeColorMap();
@@ -137,7 +139,8 @@ QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic);
 QFont UIGGetFont(const QString &name);
 
 /**
- * A bitmap of the graphics directory by bare file name; null when the file is not found or no image.
+ * A bitmap of the graphics directory by bare file name; null when the file is not found, no image, or more than 4096
+ * pixels wide or high.
  *
  * For a `devicePixelRatio` above 1 a "name@2x.png" beside "name.png" wins; the pixmap then says so by its own ratio.
  */

@@ -17,6 +17,9 @@ struct LookBitmap
     QSize room = QSize();              // what is larger is cut off; invalid: no limit
 };
 
+/** A bitmap that is wider or higher, in pixels of its file, is not loaded: far beyond any control. */
+inline constexpr int largestBitmapSide = 4096;
+
 inline constexpr LookBitmap lookBitmaps[] = {
     // A pressed face is painted over the resting one, and the three slices of each side by side.
     {u"PushbuttonWhiteLeftCap.png", u"left caps of the white push button", u"slices of the white push button"},

@@ -30,25 +30,6 @@ QString withDisplayNames(const QString &path, QChar separator)
     return localized;
 }
 
-// As QPixmap(path) does it: a file that has not changed is decoded once, as long as QPixmapCache keeps it. This key
-// takes a tenth of the time of Qt's own, which is made of dates and numbers in letters.
-QPixmap loadedPixmap(const QString &path, const Platform::FileStamp &stamp, qreal ratio)
-{
-    const auto *stampText = reinterpret_cast<const QChar *>(&stamp); // its bytes: nobody reads this key
-    const QString key = path + QLatin1Char('*') + QString::fromRawData(stampText, sizeof(stamp) / sizeof(QChar));
-    QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap))
-        return pixmap;
-    QImageReader reader(path);
-    pixmap = QPixmap::fromImageReader(&reader);
-    if (pixmap.isNull())
-        return pixmap;
-    if (ratio > 1.0)
-        pixmap.setDevicePixelRatio(ratio); // also where Qt was told not to read it from the name
-    QPixmapCache::insert(key, pixmap);
-    return pixmap;
-}
-
 } // namespace
 
 CUIGraphics::FoundFile CUIGraphics::findFile(const QString &fileName)
@@ -94,12 +75,49 @@ CUIGraphics::FoundFile CUIGraphics::findBitmap(const QString &fileName)
     return file;
 }
 
+// Asked before anything is decoded. Opening a pipe would wait for its writer, and a file of some kilobytes may hold a
+// bitmap that fills the memory.
+bool CUIGraphics::mayLoad(const FoundFile &file)
+{
+    const QSize size = file.stamp.isFile ? QImageReader(file.path).size() : QSize();
+    if (file.stamp.isFile && size.width() <= largestBitmapSide && size.height() <= largestBitmapSide)
+        return true;
+    m_use.unreadableBitmaps.insert(file.path);
+    ZEL_LOG(
+        zel::LogError, zel::UiGraphics,
+        QStringLiteral("CUIGraphics::mayLoad : %1 is not loaded: it is no file, or more than %2 pixels wide or high")
+            .arg(file.path)
+            .arg(largestBitmapSide));
+    return false;
+}
+
 template <typename Picture>
 Picture CUIGraphics::checked(const Picture &picture, const QString &path)
 {
     if (picture.isNull())
         m_use.unreadableBitmaps.insert(path);
     return picture;
+}
+
+// As QPixmap(path) does it: a file that has not changed is decoded once, as long as QPixmapCache keeps it. This key
+// takes a tenth of the time of Qt's own, which is made of dates and numbers in letters.
+QPixmap CUIGraphics::loadedPixmap(const FoundFile &file, qreal ratio)
+{
+    const qint64 stamp[] = {file.stamp.written, file.stamp.size};
+    const auto *stampText = reinterpret_cast<const QChar *>(stamp); // nobody reads this key
+    constexpr int stampLength = sizeof(stamp) / (sizeof(QChar));
+    const QString key = file.path + QLatin1Char('*') + QString::fromRawData(stampText, stampLength);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap) || !mayLoad(file))
+        return pixmap;
+    QImageReader reader(file.path);
+    pixmap = checked(QPixmap::fromImageReader(&reader), file.path);
+    if (pixmap.isNull())
+        return pixmap;
+    if (ratio > 1.0)
+        pixmap.setDevicePixelRatio(ratio); // also where Qt was told not to read it from the name
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
 }
 
 QString CUIGraphics::UIGetLocalizedPath(const QString &nonLocalizedPath)
@@ -132,22 +150,25 @@ QPixmap UIGGetPixmap(const QString &fileName, qreal devicePixelRatio)
     if (devicePixelRatio > 1.0) {
         const QString twin = doubleResolutionPath(file.path);
         const Platform::FileStamp stamp = Platform::fileStamp(twin);
-        if (stamp.exists())
-            return CUIGraphics::checked(loadedPixmap(twin, stamp, 2.0), twin);
+        const QPixmap pixmap = stamp.exists() ? CUIGraphics::loadedPixmap({twin, stamp}, 2.0) : QPixmap();
+        if (!pixmap.isNull())
+            return pixmap;
     }
-    return CUIGraphics::checked(loadedPixmap(file.path, file.stamp, 1.0), file.path);
+    return CUIGraphics::loadedPixmap(file, 1.0);
 }
 
 QImage UIGGetImage(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::findBitmap(fileName).path;
-    return path.isEmpty() ? QImage() : CUIGraphics::checked(QImage(path), path);
+    const CUIGraphics::FoundFile file = CUIGraphics::findBitmap(fileName);
+    if (file.path.isEmpty() || !CUIGraphics::mayLoad(file))
+        return QImage();
+    return CUIGraphics::checked(QImage(file.path), file.path);
 }
 
 QIcon UIGGetIcon(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
-    const QString path = CUIGraphics::findBitmap(fileName).path;
-    return path.isEmpty() ? QIcon() : QIcon(path);
+    const CUIGraphics::FoundFile file = CUIGraphics::findBitmap(fileName);
+    return file.path.isEmpty() || !CUIGraphics::mayLoad(file) ? QIcon() : QIcon(file.path);
 }

@@ -12,7 +12,8 @@ constexpr qint64 longestDeclaration = 200; // bytes; "<?xml ...?>" takes some 60
 class LookXmlReader
 {
 public:
-    explicit LookXmlReader(QIODevice *device) : m_xml(device) {}
+    // No text that counts is longer than an entity may be. Of a longer one a few thousand mentions fill the memory.
+    explicit LookXmlReader(QIODevice *device) : m_xml(device) { m_xml.setEntityExpansionLimit(longestOverrideText); }
 
     LookOverrides read()
     {
@@ -166,10 +167,10 @@ LookOverrides withEncodingTold(LookOverrides overrides, QIODevice *device)
     return overrides;
 }
 
-LookOverrides unreadable(const QString &error)
+LookOverrides nothingOf(LookFileFault fault, const QString &error)
 {
     LookOverrides nothing;
-    nothing.fault = LookFileFault::Unreadable;
+    nothing.fault = fault;
     nothing.error = error;
     return nothing;
 }
@@ -180,10 +181,14 @@ LookOverrides readLookOverrides(const QString &path)
 {
     // Only a file: opening a pipe would wait for its writer.
     QFile file(path);
-    if (!QFileInfo(path).isFile())
-        return unreadable(QStringLiteral("This is no file."));
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return nothingOf(LookFileFault::Unreadable, QStringLiteral("This is no file."));
+    if (info.size() > largestOverridesFile)
+        return nothingOf(LookFileFault::TooLarge,
+                         QStringLiteral("The file is larger than a megabyte and was not read."));
     if (!file.open(QIODevice::ReadOnly))
-        return unreadable(file.errorString());
+        return nothingOf(LookFileFault::Unreadable, file.errorString());
     const LookOverrides overrides = LookXmlReader(&file).read();
     return overrides.fault == LookFileFault::None ? overrides : withEncodingTold(overrides, &file);
 }

@@ -10,6 +10,9 @@ inline const QString lookOverridesFile = QStringLiteral("UIGraphics.xml");
 /** The longest text that counts: no colour and no family is longer. */
 constexpr int longestOverrideText = 256;
 
+/** What is larger is not read, in bytes: the file of all keys has some 20 kilobytes. */
+constexpr qint64 largestOverridesFile = qint64(1024) * 1024;
+
 /** One Color or Font element: its Name attribute and its text, without white space around it. */
 struct LookOverride
 {
@@ -33,6 +36,7 @@ enum class LookFileFault
 {
     None,
     Unreadable, // no file, or not for this user
+    TooLarge,   // for what it has to say
     Encoding,   // letters beyond ASCII that are not UTF-8, and no encoding declared
     NotWellFormed
 };
@@ -52,7 +56,7 @@ struct LookOverrides
 /**
  * Reads the elements named Color and Font, at whatever depth they stand. Elements without a Name are left out.
  *
- * A file that cannot be read, or is not well-formed to its end, gives nothing but its error.
+ * A file that cannot be read, is too large, or is not well-formed to its end, gives nothing but its error.
  */
 LookOverrides readLookOverrides(const QString &path);
 

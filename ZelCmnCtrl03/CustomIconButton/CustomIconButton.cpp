@@ -2,6 +2,7 @@
 
 #include "CustomIconButton/AccessibleIconButton.h"
 #include "CustomIconButton/IconButtonPainting.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QCursor>
@@ -42,7 +43,7 @@ QRgb greyOf(QRgb pixel)
 CCustomIconButton::CCustomIconButton(QWidget *parent) : QWidget(parent)
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(AccessibleIconButton::makeFor<CCustomIconButton>);
+    zel::installAccessible(AccessibleIconButton::makeFor<CCustomIconButton>, this);
     setMinimumSize(buttonSide, buttonSide);
     setMaximumSize(buttonSide, buttonSide);
     setMouseTracking(true);

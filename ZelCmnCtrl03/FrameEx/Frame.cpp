@@ -1,6 +1,7 @@
 #include "FrameEx/Frame.h"
 
 #include "CC4Styles/PaintTools.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QAccessibleWidget>
@@ -19,7 +20,7 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 CFrame::CFrame(QWidget *parent) : QFrame(parent)
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(makeInterface); // knows a factory that it has already
+    zel::installAccessible(makeInterface, this);
 }
 
 CFrame::~CFrame()

@@ -32,7 +32,7 @@ bool clicks(const QKeyEvent *event)
 CLabelEx::CLabelEx(QWidget *parent) : QLabel(parent)
 {
     ZEL_LOG_SCOPE;
-    LabelExAccessible::install();
+    LabelExAccessible::install(this);
 }
 
 CLabelEx::~CLabelEx()

@@ -1,6 +1,7 @@
 #include "LabelEx/LabelExAccessible.h"
 
 #include "LabelEx/LabelEx.h"
+#include "include/accessible_factory.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -61,9 +62,9 @@ QAccessibleInterface *make(const QString &className, QObject *object)
 
 } // namespace
 
-void LabelExAccessible::install()
+void LabelExAccessible::install(CLabelEx *label)
 {
-    QAccessible::installFactory(make); // knows a factory that it has already
+    zel::installAccessible(make, label);
 }
 
 QString LabelExAccessible::plainText(const QLabel &label)

@@ -3,12 +3,13 @@
 
 #include <QString>
 
+class CLabelEx;
 class QLabel;
 
 namespace LabelExAccessible {
 
-/** Makes every CLabelEx tell its role, link, picture or text, and the text that is seen. Once is enough. */
-void install();
+/** Makes every CLabelEx tell its role, link, picture or text, and the text that is seen. For its constructor. */
+void install(CLabelEx *label);
 
 /** What is seen of a label's text: without mark-up, and without the ampersands that mark a shortcut. */
 QString plainText(const QLabel &label);

@@ -1,6 +1,7 @@
 #include "LabelEx/SeparateLabel.h"
 
 #include "LabelEx/LabelExAccessible.h"
+#include "include/accessible_factory.h"
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
@@ -121,7 +122,7 @@ SeparateLabel::SeparateLabel(QAbstractButton *button, const QString &text, int w
     m_pLayout->setSpacing(0);
     m_pLabel->setText(text);
     setFixedWidth(width);
-    QAccessible::installFactory(makeInterface);
+    zel::installAccessible(makeInterface, button);
 }
 
 int SeparateLabel::heightForWidth() const

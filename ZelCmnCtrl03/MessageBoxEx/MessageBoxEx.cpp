@@ -13,6 +13,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace {
@@ -178,18 +179,21 @@ int CMessageBoxEx::information(QWidget *parent, const QString &title, const QStr
 int CMessageBoxEx::showDialog()
 {
     ZEL_LOG_SCOPE;
+    const QPointer<CMessageBoxEx> self(this); // who hears of what happens meanwhile may destroy the box
     if (m_bAutoClose)
         m_timerId = startTimer(autoCloseInterval);
     growToLayout();
     moveToCentre();
     saveBackgroundPixmap();
     show();
+    if (self.isNull())
+        return QDialog::Rejected;
     activateWindow(); // not every window manager gives a splash screen the keyboard
     ZEL_LOG(zel::LogDetail, zel::CommonControls,
             QStringLiteral("CMessageBoxEx::showDialog <%1 x %2>").arg(width()).arg(height()));
     // Qt lets events in while it shows a splash screen, and the box may be over by now.
     const int result = isVisible() ? QDialog::exec() : QDialog::result();
-    if (!m_pContent.isNull()) {
+    if (!self.isNull() && !m_pContent.isNull()) {
         m_pContentLayout->removeWidget(m_pContent);
         m_pContent->setParent(nullptr);
     }

@@ -105,7 +105,8 @@ public:
      * Shows the box in the middle of the screen of the active window and waits for its end.
      *
      * Gives the specifier of the button that ended it; QDialog::Accepted after the count-down; after a close the
-     * result() that the application set, else 0.
+     * result() that the application set, else 0. A box that is destroyed meanwhile gives 0 too, and takes its content
+     * along.
      */
     int showDialog();
 

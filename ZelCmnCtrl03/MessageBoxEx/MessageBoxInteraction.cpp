@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTimerEvent>
 
 namespace {
@@ -139,15 +140,20 @@ int CMessageBoxEx::setAutoClose(int seconds)
 
 void CMessageBoxEx::timerEvent(QTimerEvent *event)
 {
+    const QPointer<CMessageBoxEx> self(this);
     if (event->timerId() == m_timerId && m_autoCloseCount-- <= 0)
         endByCountDown();
-    Q_EMIT UpdateText();
+    if (!self.isNull())
+        Q_EMIT UpdateText();
 }
 
 void CMessageBoxEx::endByCountDown()
 {
     killTimer(m_timerId);
+    const QPointer<CMessageBoxEx> self(this); // who hears of the end may destroy the box
     accept();
+    if (self.isNull())
+        return;
     // Hidden by now, the box would be closed by Qt 5 with its event and by Qt 6 without.
     QCloseEvent event;
     QCoreApplication::sendEvent(this, &event);
@@ -162,19 +168,22 @@ void CMessageBoxEx::slot_close()
 void CMessageBoxEx::buttonClicked()
 {
     ZEL_LOG_SCOPE;
+    const QPointer<CMessageBoxEx> self(this); // who hears of the click may destroy the box
     int result = 0;
     bool endsBox = true;
-    for (int index = 0; index < m_numButtons; ++index) {
+    for (int index = 0; !self.isNull() && index < m_numButtons; ++index) {
         if (m_pButtons[index] != sender())
             continue;
         Q_EMIT Button_Hit(m_buttons[index]);
+        if (self.isNull())
+            return;
         if (m_popupButtons[index] == index) {
             endsBox = false;
             Q_EMIT Popup_Notify(m_pButtons[index]->text());
         } else
             result = m_buttons[index];
     }
-    if (endsBox)
+    if (!self.isNull() && endsBox)
         done(result);
 }
 

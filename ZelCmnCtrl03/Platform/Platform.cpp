@@ -76,7 +76,8 @@ bool registerPrivateFont(const QString &path)
     // The font database ends the process when it is asked before there is an application object.
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr)
         return false;
-    return QFontDatabase::addApplicationFont(path) != -1;
+    // Only a file: reading a pipe would wait for its writer.
+    return QFileInfo(path).isFile() && QFontDatabase::addApplicationFont(path) != -1;
 }
 
 QString displayName(const QString &path)
@@ -97,13 +98,14 @@ FileStamp fileStamp(const QString &path)
 {
 #ifdef Q_OS_WIN
     const QFileInfo file(path);
-    return file.exists() ? FileStamp{file.lastModified().toMSecsSinceEpoch() * 1000000, file.size()} : FileStamp();
+    return file.exists() ? FileStamp{file.lastModified().toMSecsSinceEpoch() * 1000000, file.size(), file.isFile()}
+                         : FileStamp();
 #else
     struct stat status;
     if (stat(QFile::encodeName(path).constData(), &status) != 0)
         return FileStamp();
     const timespec &written = status.st_mtim;
-    return {qint64(written.tv_sec) * 1000000000 + written.tv_nsec, qint64(status.st_size)};
+    return {qint64(written.tv_sec) * 1000000000 + written.tv_nsec, qint64(status.st_size), S_ISREG(status.st_mode)};
 #endif
 }
 

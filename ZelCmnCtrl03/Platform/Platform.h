@@ -36,11 +36,13 @@ QString displayName(const QString &path);
  */
 QString fileOfAddress(const void *address);
 
-/** What tells one content of a file from another: when it was written last, in nanoseconds, and its size in bytes. */
+/** What a file is, and what tells one content of it from another: when it was written last, in nanoseconds, and its
+ * size in bytes. */
 struct FileStamp
 {
     qint64 written = 0;
     qint64 size = -1;
+    bool isFile = false; // and no directory, pipe or device
 
     bool exists() const { return size >= 0; }
 };

@@ -3,6 +3,7 @@
 #include "ProgressBarEx/AccessibleProgress.h"
 #include "ProgressBarEx/RainbowStrip.h"
 #include "UiGraphics.h"
+#include "include/accessible_factory.h"
 #include "include/qt_compat.h"
 #include "include/qt_globals.h"
 
@@ -116,7 +117,7 @@ CProgressBarDialogEx::CProgressBarDialogEx(const QString &label, QWidget *parent
     : QWidget(parent), m_pArtwork(std::make_unique<Artwork>())
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(makeAccessible);
+    zel::installAccessible(makeAccessible, this);
     setFont(UIGGetFont(fontPixels, -1, false));
     resize(startSize);
     m_pArtwork->load(devicePixelRatioF());

@@ -2,6 +2,7 @@
 
 #include "ProgressBarEx/AccessibleProgress.h"
 #include "ProgressBarEx/RainbowStrip.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QPainter>
@@ -21,7 +22,7 @@ QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 CProgressBarEx::CProgressBarEx(QWidget *parent) : QWidget(parent), m_pRainbow(std::make_unique<RainbowStrip>())
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(makeAccessible);
+    zel::installAccessible(makeAccessible, this);
     m_pRainbow->prepareFor(devicePixelRatioF());
     resize(startSize);
     decideOpaqueness(); // the resize event waits until the first show

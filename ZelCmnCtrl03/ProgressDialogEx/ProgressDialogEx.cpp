@@ -3,6 +3,7 @@
 #include "ProgressBarEx/AccessibleProgress.h"
 #include "ProgressDialogEx/DialogFace.h"
 #include "UiGraphics.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QApplication>
@@ -60,7 +61,7 @@ CProgressDialogEx::CProgressDialogEx(QWidget *parent)
     : QDialog(parent, Qt::Popup), m_pOuterGrid(makeGrid("gridLayout")), m_pInnerGrid(makeGrid("gridLayout1"))
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(makeAccessible);
+    zel::installAccessible(makeAccessible, this);
     setFont(fontOf(dialogPoints));
     setLayout(m_pOuterGrid);
     m_pOuterGrid->addLayout(m_pInnerGrid, 0, 0);

@@ -5,6 +5,7 @@
 #include "ProgressDialogEx/DialogFace.h"
 #include "RainbowProgressDialog/RainbowProgressDialog_p.h"
 #include "UiGraphics.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QGridLayout>
@@ -72,7 +73,7 @@ CRainbowProgressDialog::CRainbowProgressDialog(QWidget *parent)
 {
     ZEL_LOG_SCOPE;
     d->init();
-    QAccessible::installFactory(makeAccessible);
+    zel::installAccessible(makeAccessible, this);
     setFont(fontOf(dialogPoints, dialogPoints));
     auto *grid = new QGridLayout(this);
     grid->setObjectName(QStringLiteral("gridLayout"));

@@ -80,7 +80,7 @@ int CSliderPrivate::keyTarget(int handle, int step) const
 CDSliderEx::CDSliderEx(QWidget *parent, Qt::WindowFlags flags) : QWidget(parent, flags), d(new CSliderPrivate)
 {
     ZEL_LOG_SCOPE;
-    DSliderExAccessible::install();
+    DSliderExAccessible::install(this);
     setFocusPolicy(Qt::StrongFocus);
 }
 

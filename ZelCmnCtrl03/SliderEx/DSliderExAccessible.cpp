@@ -3,6 +3,7 @@
 #include "SliderEx/DSliderEx.h"
 #include "SliderEx/DSliderEx_p.h"
 #include "SliderEx/SliderKeys.h"
+#include "include/accessible_factory.h"
 
 #include <algorithm>
 
@@ -18,13 +19,9 @@ QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
 
 } // namespace
 
-void DSliderExAccessible::install()
+void DSliderExAccessible::install(CDSliderEx *slider)
 {
-    static const bool isInstalled = [] {
-        QAccessible::installFactory(interfaceOf);
-        return true;
-    }();
-    Q_UNUSED(isInstalled)
+    zel::installAccessible(interfaceOf, slider);
 }
 
 DSliderExAccessible::DSliderExAccessible(CDSliderEx *slider) : QAccessibleWidget(slider, QAccessible::Slider) {}

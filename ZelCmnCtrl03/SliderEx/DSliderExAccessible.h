@@ -13,7 +13,7 @@ class DSliderExAccessible : public QAccessibleWidget, public QAccessibleValueInt
 {
 public:
     /** From here on every CDSliderEx is announced so. Any further call does nothing. */
-    static void install();
+    static void install(CDSliderEx *slider);
 
     explicit DSliderExAccessible(CDSliderEx *slider);
     ~DSliderExAccessible() override;

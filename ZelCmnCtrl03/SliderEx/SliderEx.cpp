@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QStyleOptionFocusRect>
 #include <QStyleOptionSlider>
 #include <QStylePainter>
@@ -73,7 +74,10 @@ void CSliderEx::mousePressEvent(QMouseEvent *event)
         return;
     }
     setFocus(Qt::MouseFocusReason);
+    const QPointer<CSliderEx> self(this); // who is told of the value may destroy the slider
     setSliderPosition(pixelPosToRangeValue(zel::localPosition(event) - clickOffset));
+    if (self.isNull())
+        return;
     // Where the handle is under the pointer now, this begins an ordinary drag.
     QSlider::mousePressEvent(event);
 }

@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -297,15 +298,21 @@ void CZoomSlider::mousePressEvent(QMouseEvent *event)
 {
     ZEL_LOG_SCOPE;
     const QPoint point = zel::localPosition(event);
-    if (smallerRect.contains(point)) {
-        m_pSlider->setSliderPosition(minimum());
-        setZoomed(minimum());
-    }
-    if (largerRect.contains(point)) {
-        m_pSlider->setSliderPosition(maximum());
-        setZoomed(maximum());
-    }
-    QWidget::mousePressEvent(event);
+    const QPointer<CZoomSlider> self(this); // who is told of the value may destroy the control
+    if (smallerRect.contains(point))
+        goTo(minimum());
+    if (!self.isNull() && largerRect.contains(point))
+        goTo(maximum());
+    if (!self.isNull())
+        QWidget::mousePressEvent(event);
+}
+
+void CZoomSlider::goTo(int position)
+{
+    const QPointer<CZoomSlider> self(this);
+    m_pSlider->setSliderPosition(position);
+    if (!self.isNull())
+        setZoomed(position);
 }
 
 void CZoomSlider::changeEvent(QEvent *event)

@@ -167,6 +167,7 @@ private:
     void fitLargerButtonImage(const QPixmap &image);
     void nameParts();
     void stepBy(int step);
+    void goTo(int position);
 
     CButtonEx *m_pSmallerButton = nullptr;
     CButtonEx *m_pLargerButton = nullptr;

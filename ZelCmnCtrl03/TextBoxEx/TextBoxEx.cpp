@@ -5,6 +5,7 @@
 #include "include/qt_globals.h"
 
 #include <QFocusEvent>
+#include <QPointer>
 
 namespace {
 
@@ -92,6 +93,8 @@ void CTextBoxEx::focusOutEvent(QFocusEvent *event)
     ZEL_LOG_SCOPE;
     m_bFocussed = false;
     update();
+    const QPointer<CTextBoxEx> self(this); // who is told that editing is finished may destroy the text box
     QLineEdit::focusOutEvent(event);
-    Q_EMIT focusOut();
+    if (!self.isNull())
+        Q_EMIT focusOut();
 }

@@ -2,6 +2,7 @@
 
 #include "CustomIconButton/AccessibleIconButton.h"
 #include "CustomIconButton/IconButtonPainting.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QMouseEvent>
@@ -14,7 +15,7 @@ using namespace IconButtonPainting;
 CTitleButton::CTitleButton(QWidget *parent) : QWidget(parent)
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(AccessibleIconButton::makeFor<CTitleButton>);
+    zel::installAccessible(AccessibleIconButton::makeFor<CTitleButton>, this);
     setMinimumSize(titleButtonSide, titleButtonSide);
     setMaximumSize(titleButtonSide, titleButtonSide);
     setMouseTracking(true);

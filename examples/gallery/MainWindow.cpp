@@ -20,6 +20,8 @@
 #include <QStatusBar>
 #include <QStyleFactory>
 
+#include <utility>
+
 namespace gallery {
 
 namespace {
@@ -76,6 +78,12 @@ MainWindow::MainWindow(const GalleryOptions &options)
 MainWindow::~MainWindow()
 {
     delete m_scrollArea->takeWidget();
+}
+
+void MainWindow::lockRestarts()
+{
+    for (QWidget *restarter : std::as_const(m_restarters))
+        restarter->setEnabled(false);
 }
 
 QWidget *MainWindow::makePageList()
@@ -136,6 +144,7 @@ void MainWindow::addLanguages(QHBoxLayout *line)
     connect(m_languages, QOverload<int>::of(&QComboBox::activated), this, &MainWindow::chooseLanguage);
     line->addWidget(new QLabel(QStringLiteral("Language:")));
     line->addWidget(m_languages);
+    m_restarters.append(m_languages);
     line->addSpacing(switchGap);
 }
 
@@ -155,6 +164,7 @@ void MainWindow::addGraphics(QHBoxLayout *line)
     line->addWidget(new QLabel(QStringLiteral("Graphics:")));
     line->addWidget(choose);
     line->addWidget(builtIn);
+    m_restarters += {choose, builtIn};
 }
 
 void MainWindow::setRightToLeft(bool on)

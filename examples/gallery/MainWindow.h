@@ -24,6 +24,12 @@ public:
     explicit MainWindow(const GalleryOptions &options);
     ~MainWindow() override;
 
+    /** The list of pages, the first of which is shown at first. */
+    QListWidget *pageList() const { return m_list; }
+
+    /** Takes away what would start the gallery anew, in another process. */
+    void lockRestarts();
+
 private:
     QWidget *makePageList();
     QWidget *makeSwitches();
@@ -45,6 +51,7 @@ private:
     QListWidget *m_list;
     QScrollArea *m_scrollArea;
     QComboBox *m_languages;
+    QList<QWidget *> m_restarters;
 };
 
 } // namespace gallery

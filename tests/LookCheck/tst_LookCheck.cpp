@@ -530,7 +530,7 @@ void tst_LookCheck::hostileFiles_data()
     QTest::newRow("nested entities") << xml << laughs + "]><a><Color Name='UIGCLR_GLOW'>&l29;</Color></a>" << qint64(0)
                                      << QStringLiteral("no effect at all");
     QTest::newRow("100 megabytes") << xml << QByteArray("<a>") << qint64(100) * 1024 * 1024
-                                   << QStringLiteral("larger than a megabyte and was not checked");
+                                   << QStringLiteral("larger than a megabyte and was not read");
     const int depth = 30000;
     QByteArray deep;
     for (int i = 0; i < depth; ++i)
@@ -541,7 +541,7 @@ void tst_LookCheck::hostileFiles_data()
                                                QByteArray("<Color Name='UIGCLR_X'/>\n").repeated(20000) + "</a>"
                                         << qint64(0) << QStringLiteral("19900 more like these");
     QTest::newRow("bitmap bomb") << bitmap << boastingPng(60000) << qint64(0)
-                                 << QStringLiteral("no control is that large. It was not checked.");
+                                 << QStringLiteral("no control is that large. Nothing is drawn.");
     QTest::newRow("bitmap without content") << bitmap << boastingPng(64) << qint64(0) << QStringLiteral("is damaged");
     QTest::newRow("giant bitmap") << bitmap << QByteArray("\x89PNG") << qint64(100) * 1024 * 1024
                                   << QStringLiteral("larger than 16 megabytes. It was not checked.");

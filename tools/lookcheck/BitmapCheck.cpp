@@ -116,6 +116,8 @@ private:
         case BitmapFault::Forbidden:
             return tell(Severity::Error, consequence, QStringLiteral("Let all users of the application read it."));
         case BitmapFault::TooLarge:
+            return tell(Severity::Error, consequence, QStringLiteral("Put a smaller one in its place."));
+        case BitmapFault::Unchecked:
             return tell(Severity::Warning, QStringLiteral("It was not checked."),
                         QStringLiteral("Is it the right one?"));
         case BitmapFault::Drawing:
@@ -244,6 +246,11 @@ private:
     QVector<FoundBitmap> m_found;
 };
 
+bool isOversized(BitmapFault fault)
+{
+    return fault == BitmapFault::TooLarge || fault == BitmapFault::Unchecked;
+}
+
 } // namespace
 
 void checkBitmaps(const Look &look, bool mayLack, Findings *findings)
@@ -259,7 +266,7 @@ QString oversizedFile(const Look &look)
     for (const LookBitmap &bitmap : lookBitmaps) {
         const QString path = look.find(nameOf(bitmap));
         for (const QString &candidate : {path, doubleResolutionPath(path)})
-            if (!path.isEmpty() && readBitmap(candidate).fault == BitmapFault::TooLarge)
+            if (!path.isEmpty() && isOversized(readBitmap(candidate).fault))
                 return candidate;
     }
     return QString();

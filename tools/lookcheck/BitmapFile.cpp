@@ -1,5 +1,7 @@
 #include "BitmapFile.h"
 
+#include "UiGraphicsBitmaps.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -11,8 +13,6 @@ namespace lookcheck {
 
 namespace {
 
-// Far beyond any control. A small file can say of itself that it is of any size.
-constexpr int largestSide = 4096; // pixels
 constexpr qint64 largestFile = qint64(16) * 1024 * 1024;
 
 // Here, Qt may lack the plugin.
@@ -41,12 +41,12 @@ BitmapFile readBitmap(const QString &path, QImage *image)
     if (!info.isReadable())
         return failed(BitmapFault::Forbidden, QStringLiteral("This user may not read the file."));
     if (info.size() > largestFile)
-        return failed(BitmapFault::TooLarge, QStringLiteral("The file is larger than 16 megabytes."));
+        return failed(BitmapFault::Unchecked, QStringLiteral("The file is larger than 16 megabytes."));
     QImageReader reader(path);
     if (reader.format().startsWith("svg") || (reader.format().isEmpty() && isSvg(path)))
         return failed(BitmapFault::Drawing, QStringLiteral("This is an SVG drawing."));
     const QSize size = reader.size();
-    if (size.width() > largestSide || size.height() > largestSide)
+    if (size.width() > largestBitmapSide || size.height() > largestBitmapSide)
         return failed(BitmapFault::TooLarge, QStringLiteral("The bitmap is %1 x %2 pixels; no control is that large.")
                                                  .arg(size.width())
                                                  .arg(size.height()));

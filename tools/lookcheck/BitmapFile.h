@@ -13,7 +13,8 @@ enum class BitmapFault
     None,
     NoBitmap,  // nothing that Qt could draw
     Forbidden, // for this user
-    TooLarge,  // by what it says of itself: it was not read
+    TooLarge,  // for the library, by what it says of itself
+    Unchecked, // a file so large that it was not read here
     Drawing    // an SVG, which Qt draws only where it has the plugin
 };
 

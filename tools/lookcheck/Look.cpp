@@ -14,10 +14,7 @@ OverridesFile readFile(const QString &path)
 {
     OverridesFile file;
     file.path = path;
-    const QFileInfo info(path);
-    file.isTooLarge = info.isFile() && info.size() > largestOverridesFile;
-    if (!file.isTooLarge)
-        file.overrides = readLookOverrides(path);
+    file.overrides = readLookOverrides(path);
     return file;
 }
 

@@ -26,11 +26,7 @@ struct OverridesFile
 {
     QString path;
     LookOverrides overrides;
-    bool isTooLarge = false; // to be checked; the library reads it
 };
-
-/** What is larger is not checked: the file of all keys has some 20 kilobytes. */
-constexpr qint64 largestOverridesFile = qint64(1024) * 1024;
 
 class Look
 {

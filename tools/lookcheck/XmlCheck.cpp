@@ -34,11 +34,6 @@ public:
 
     void run()
     {
-        if (m_file.isTooLarge) {
-            tell(Severity::Warning, 0, QStringLiteral("The file is larger than a megabyte and was not checked."),
-                 QStringLiteral("Is it the right one? A file of all keys has some 20 kilobytes."));
-            return;
-        }
         if (m_file.overrides.fault != LookFileFault::None) {
             tell(Severity::Error, m_file.overrides.errorLine,
                  QStringLiteral("The file has no effect at all: %1").arg(withoutControls(m_file.overrides.error)),
@@ -63,6 +58,8 @@ private:
         switch (fault) {
         case LookFileFault::Unreadable:
             return QStringLiteral("Put a file there that all users of the application may read.");
+        case LookFileFault::TooLarge:
+            return QStringLiteral("Is it the right one? A file of all keys has some 20 kilobytes.");
         case LookFileFault::Encoding:
             return QStringLiteral("Save it as UTF-8, or say its encoding in the first line: "
                                   "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>");

@@ -2,6 +2,7 @@
 
 #include "CustomIconButton/AccessibleIconButton.h"
 #include "CustomIconButton/IconButtonPainting.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QMouseEvent>
@@ -15,7 +16,7 @@ using namespace IconButtonPainting;
 CCustomIconButtons::CCustomIconButtons(QWidget *parent) : QWidget(parent), m_savedCursor(cursor())
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(AccessibleIconButton::makeFor<CCustomIconButtons>);
+    zel::installAccessible(AccessibleIconButton::makeFor<CCustomIconButtons>, this);
     setMinimumSize(titleButtonSide, titleButtonSide);
     setMaximumSize(titleButtonSide, titleButtonSide);
     setMouseTracking(true);

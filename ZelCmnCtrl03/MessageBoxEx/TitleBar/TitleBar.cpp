@@ -4,6 +4,7 @@
 #include "MessageBoxEx/TitleBar/CustomIconButtons.h"
 #include "Platform/Platform.h"
 #include "UiGraphics.h"
+#include "include/accessible_factory.h"
 #include "include/qt_globals.h"
 
 #include <QAccessibleWidget>
@@ -42,7 +43,7 @@ QAccessibleInterface *accessibleTitleBar(const QString &className, QObject *obje
 CTitleBar::CTitleBar(QWidget *parent) : QWidget(parent)
 {
     ZEL_LOG_SCOPE;
-    QAccessible::installFactory(accessibleTitleBar);
+    zel::installAccessible(accessibleTitleBar, this);
     fillBackground();
     setFont(captionFont());
     makePens();

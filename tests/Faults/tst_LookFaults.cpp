@@ -1,0 +1,233 @@
+// Graphics directories, files in them and languages that are not as they should be: the look is the built-in one or
+// lacks what is not there, and the application goes on, in bounded time and memory.
+#include "helpers/HouseTest.h"
+
+#include "UiGraphics/Deployment.h"
+
+#include <QBuffer>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr qint64 megabyte = qint64(1024) * 1024;
+
+// Of a child process. The sanitizer keeps what has been freed, and its shadow.
+#ifdef __SANITIZE_ADDRESS__
+constexpr long mostKilobytes = 800 * 1024;
+#else
+constexpr long mostKilobytes = 256 * 1024;
+#endif
+
+const QStringList color{QStringLiteral("color"), QStringLiteral("UIGCLR_PB_NORMAL_BOTTOM")};
+const QStringList pixmap{QStringLiteral("pixmap"), QStringLiteral("Close.png"), QStringLiteral("1")};
+const QString builtIn = QStringLiteral("#fff7941d");
+const QString overridden = QStringLiteral("#ff8a2be2");
+
+const QByteArray override = "<Color Name='UIGCLR_PB_NORMAL_BOTTOM'>8A2BE2</Color>";
+
+/** A document that is as long as wanted: the start, the middle over and over, the end. */
+QByteArray filled(const QByteArray &start, const QByteArray &middle, const QByteArray &end, qint64 size = megabyte)
+{
+    return start + middle.repeated(int((size - start.size() - end.size()) / middle.size())) + end;
+}
+
+// A text of 2 to the power of 30 letters.
+QByteArray billionLaughs()
+{
+    QByteArray entities = "<!DOCTYPE a [<!ENTITY l0 'ha'>";
+    for (int i = 1; i < 30; ++i)
+        entities += QStringLiteral("<!ENTITY l%1 '&l%2;&l%2;'>").arg(i).arg(i - 1).toLatin1();
+    return entities + "]><a>&l29;" + override + "</a>";
+}
+
+constexpr int hugeSide = 9000; // some kilobytes as a file, some hundred megabytes as a pixmap
+
+QByteArray png(int side)
+{
+    QImage image(side, side, QImage::Format_Mono);
+    image.fill(1);
+    QByteArray file;
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return file;
+}
+
+bool isBounded()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage); // of the largest child so far
+    if (usage.ru_maxrss < mostKilobytes)
+        return true;
+    qWarning("%ld kilobytes", usage.ru_maxrss);
+    return false;
+}
+
+} // namespace
+
+class tst_LookFaults : public HouseTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void xml_data();
+    void xml();
+    void directory_data();
+    void directory();
+    void bitmap_data();
+    void bitmap();
+    void pipes();
+    void language_data();
+    void language();
+    void everyPageIsPainted_data();
+    void everyPageIsPainted();
+};
+
+void tst_LookFaults::xml_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<qint64>("size"); // blown up to it
+    QTest::addColumn<QString>("wanted");
+    const auto row = [](const char *name, const QByteArray &content, const QString &wanted, qint64 size = 0) {
+        QTest::newRow(name) << content << size << wanted;
+    };
+    row("nested entities", billionLaughs(), builtIn);
+    const QByteArray letters = QByteArray(256, 'x');
+    row("an entity, over and over", filled("<!DOCTYPE a [<!ENTITY l '" + letters + "'>]><a>", "&l;", override + "</a>"),
+        overridden);
+    row("a longer one", "<!DOCTYPE a [<!ENTITY l '" + letters.repeated(8) + "'>]><a>&l;" + override + "</a>", builtIn);
+    row("100 megabytes", "<a>" + override, builtIn, 100 * megabyte);
+    row("just not too large", filled("<a>", " ", override + "</a>"), overridden);
+    row("deep", filled("", "<a>", ""), builtIn);
+    row("many elements", filled("<a>", "<Color Name='a'/>", override + "</a>"), overridden);
+    row("many without a name", filled("<a>", "<Color/>", override + "</a>"), overridden);
+    row("a long name", filled("<a><Color Name='", "x", "'/>" + override + "</a>"), overridden);
+}
+
+void tst_LookFaults::xml()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(qint64, size);
+    QFETCH(QString, wanted);
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LOG"), QStringLiteral("warning"));
+    deployment.write(QStringLiteral("UIGraphics.xml"), content);
+    if (size > 0)
+        QVERIFY(QFile::resize(deployment.graphics() + QStringLiteral("/UIGraphics.xml"), size));
+    QCOMPARE(deployment.ask(color), QStringList(wanted));
+    QVERIFY(isBounded());
+}
+
+void tst_LookFaults::directory_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("not there") << QStringLiteral("/nowhere/at/all");
+    QTest::newRow("a file") << QStringLiteral("/etc/passwd");
+    QTest::newRow("a device") << QStringLiteral("/dev/full");
+    QTest::newRow("unreadable, also by root") << QStringLiteral("/proc/self/mem");
+    QTest::newRow("a name that no system takes") << QLatin1Char('/') + QString(10000, QLatin1Char('x'));
+}
+
+void tst_LookFaults::directory()
+{
+    QFETCH(QString, path);
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), path);
+    QCOMPARE(deployment.ask(color + pixmap), QStringList({builtIn, QStringLiteral("null")}));
+    QVERIFY(deployment.log().contains(QLatin1String("ERROR : Graphics path not found for: Close.png")));
+}
+
+void tst_LookFaults::bitmap_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isRefused");
+    QTest::newRow("truncated") << png(64).left(90) << false;
+    QTest::newRow("huge") << png(hugeSide) << true;
+    QTest::newRow("huge and truncated") << png(hugeSide).left(1000) << true;
+    QTest::newRow("huge by its own account") << QByteArray("P6 60000 60000 255\nabc") << false;
+    QTest::newRow("empty") << QByteArray() << false;
+    QTest::newRow("no bitmap") << QByteArray("<html/>") << false;
+}
+
+void tst_LookFaults::bitmap()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, isRefused);
+    const Deployment deployment;
+    deployment.write(QStringLiteral("Close.png"), content);
+    const QStringList image{QStringLiteral("image"), QStringLiteral("Close.png")};
+    const QString null = QStringLiteral("null");
+    QCOMPARE(deployment.ask(pixmap + pixmap + image), QStringList({null, null, null}));
+    // Said once, not at every paint.
+    QCOMPARE(deployment.log().count(QLatin1String("Close.png is not loaded")), isRefused ? 1 : 0);
+    QVERIFY(isBounded());
+}
+
+// Whoever opened one to read would wait for its writer.
+void tst_LookFaults::pipes()
+{
+    const Deployment deployment;
+    QVERIFY(QDir().mkpath(deployment.graphics() + QStringLiteral("/Fonts")));
+    for (const char *name : {"UIGraphics.xml", "Close.png", "Fonts/KORZEMED.otf"})
+        QCOMPARE(mkfifo(QFile::encodeName(deployment.graphics() + QLatin1Char('/') + QLatin1String(name)), 0600), 0);
+    QCOMPARE(deployment.ask(color + pixmap), QStringList({builtIn, QStringLiteral("null")}));
+    QVERIFY(deployment.log().contains(QLatin1String("CUIGraphics::initializeFont : not registered: ")));
+}
+
+void tst_LookFaults::language_data()
+{
+    QTest::addColumn<QString>("tag");
+    QTest::newRow("10,000 letters") << QString(10000, QLatin1Char('x'));
+    QTest::newRow("a separator") << QStringLiteral("de/AT");
+    QTest::newRow("only separators") << QStringLiteral("//");
+    QTest::newRow("out of the directory") << QStringLiteral("../../../..");
+    QTest::newRow("two lines") << QStringLiteral("de\nAT");
+    QTest::newRow("a placeholder") << QStringLiteral("%1%n");
+}
+
+// Such a tag has no files of its own; it takes the common ones and the fonts of all other languages.
+void tst_LookFaults::language()
+{
+    QFETCH(QString, tag);
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LANGUAGE"), tag);
+    deployment.addBitmap(QStringLiteral("Close.png"), QSize(3, 4));
+    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>" + override + "</a>");
+    const QStringList font{QStringLiteral("font"), QStringLiteral("14"), QStringLiteral("-1"), QStringLiteral("0")};
+    QCOMPARE(deployment.ask(color + pixmap + font),
+             QStringList({overridden, QStringLiteral("3x4@1"), QStringLiteral("Tahoma,14px,-1pt,normal,antialias")}));
+}
+
+void tst_LookFaults::everyPageIsPainted_data()
+{
+    QTest::addColumn<QByteArray>("bitmap");
+    QTest::newRow("no directory") << QByteArray();
+    QTest::newRow("huge bitmaps") << png(hugeSide);
+    QTest::newRow("bitmaps of a pixel") << QByteArray("P6 1 1 255\nabc");
+}
+
+// All painters, with bitmaps that none of them is made for.
+void tst_LookFaults::everyPageIsPainted()
+{
+    QFETCH(QByteArray, bitmap);
+    if (QByteArray(GALLERY).isEmpty())
+        QSKIP("built without the gallery");
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LOG"), QStringLiteral("warning"));
+    if (bitmap.isEmpty())
+        deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral("/nowhere"));
+    for (const QString &name : QDir(QStringLiteral(ARTWORK)).entryList({QStringLiteral("*.png")}))
+        deployment.write(name, bitmap);
+    const QString shots = deployment.home() + QStringLiteral("/shots");
+    const QStringList said = deployment.ask({QStringLiteral("--shots"), shots}, QStringLiteral(GALLERY));
+    const QStringList pages = QDir(shots).entryList({QStringLiteral("*.png")});
+    QVERIFY2(pages.size() >= 20, qPrintable(said.join(QLatin1Char('\n'))));
+    for (const QString &page : pages)
+        QVERIFY(!QImage(shots + QLatin1Char('/') + page).isNull());
+    QVERIFY(isBounded());
+}
+
+HOUSE_TEST_MAIN(tst_LookFaults)
+#include "tst_LookFaults.moc"

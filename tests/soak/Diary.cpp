@@ -1,0 +1,69 @@
+#include "Diary.h"
+
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t entryCount = 50;
+constexpr std::size_t entryLength = 120;
+constexpr unsigned longestSilence = 120; // seconds
+
+// Fixed places: whoever tells them may have no memory to ask for.
+std::array<std::array<char, entryLength>, entryCount> entries;
+std::size_t written = 0;
+std::array<char, entryLength> heading;
+
+void say(const char *text)
+{
+    if (::write(STDERR_FILENO, text, std::strlen(text)) < 0 || ::write(STDERR_FILENO, "\n", 1) < 0)
+        return;
+}
+
+void endBySignal(int signal)
+{
+    say(signal == SIGALRM ? "soak: nothing happens any more" : "soak: ended by a signal");
+    Diary::tell();
+    std::signal(signal, SIG_DFL);
+    std::raise(signal == SIGALRM ? SIGABRT : signal);
+}
+
+} // namespace
+
+void Diary::open(unsigned seed)
+{
+    std::snprintf(heading.data(), heading.size(), "soak: the last operations, with --seed %u:", seed);
+    for (const int signal : {SIGABRT, SIGALRM, SIGFPE, SIGTERM})
+        std::signal(signal, endBySignal);
+#ifndef __SANITIZE_ADDRESS__ // which has a handler of its own, and calls the function below
+    std::signal(SIGSEGV, endBySignal);
+    std::signal(SIGBUS, endBySignal);
+#endif
+    alarm(longestSilence);
+}
+
+void Diary::write(const QString &entry)
+{
+    const QByteArray text = entry.toUtf8();
+    std::snprintf(entries[written % entryCount].data(), entryLength, "  %zu %s", written, text.constData());
+    ++written;
+    alarm(longestSilence);
+}
+
+void Diary::tell()
+{
+    say(heading.data());
+    for (std::size_t i = written > entryCount ? written - entryCount : 0; i < written; ++i)
+        say(entries[i % entryCount].data());
+}
+
+// Called by the sanitizer before its report.
+extern "C" void __asan_on_error();
+extern "C" void __asan_on_error() // NOLINT(bugprone-reserved-identifier): its name
+{
+    Diary::tell();
+}

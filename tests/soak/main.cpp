@@ -1,0 +1,211 @@
+// The gallery in the hands of a random user, for minutes: zel_soak [--minutes N] [--seed N]
+// Ends with 1 when memory grows, something is left over, a count is off or anybody warns.
+#include "Census.h"
+#include "Diary.h"
+#include "MainWindow.h"
+#include "RandomUser.h"
+
+#include <ZelCmnCtrl03/CC4StyleFactory>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <QTextStream>
+#include <QTimer>
+
+#include <algorithm>
+#include <memory>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr int wrongArguments = 2;
+constexpr double defaultMinutes = 10;
+constexpr int fewestStages = 4; // each ends with a count
+constexpr double warmUp = 0.3;  // of all stages: caches fill, and the sanitizer's quarantine
+constexpr long slackKilobytes = 4 * 1024;
+constexpr double heapSlack = 0.05;
+#ifdef __SANITIZE_ADDRESS__
+constexpr double residentSlack = 0.4;
+#else
+constexpr double residentSlack = 0.1;
+#endif
+
+long bound(long kilobytes, double slack)
+{
+    return kilobytes + slackKilobytes + long(double(kilobytes) * slack);
+}
+
+QStringList warnings;
+
+void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    // The answers of X about windows that have gone meanwhile, and what Qt says about a pointer that is not the real
+    // one.
+    const bool isOfWindowSystem = message.startsWith(QLatin1String("QXcbConnection: XCB error"));
+    if (type != QtDebugMsg && type != QtInfoMsg && !isOfWindowSystem)
+        warnings.append(message);
+}
+
+struct Options
+{
+    double minutes = defaultMinutes;
+    unsigned seed = 0;
+};
+
+bool readOptions(Options &options)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Plays with the gallery, and counts what is left over."));
+    parser.addHelpOption();
+    parser.addOptions(
+        {{QStringLiteral("minutes"), QStringLiteral("How long; 10 unless told."), QStringLiteral("N")},
+         {QStringLiteral("seed"), QStringLiteral("Plays the game of that run again."), QStringLiteral("N")}});
+    parser.process(*qApp);
+    bool areMinutes = true;
+    bool isSeed = true;
+    options.seed = std::random_device()() % 1000000;
+    if (parser.isSet(QStringLiteral("minutes")))
+        options.minutes = parser.value(QStringLiteral("minutes")).toDouble(&areMinutes);
+    if (parser.isSet(QStringLiteral("seed")))
+        options.seed = parser.value(QStringLiteral("seed")).toUInt(&isSeed);
+    return areMinutes && isSeed && options.minutes > 0 && parser.positionalArguments().isEmpty();
+}
+
+/** The run: stages of play, each with a rest and a count at its end. */
+class Soak : public QObject
+{
+public:
+    explicit Soak(const Options &options)
+        : m_stages(std::max(fewestStages, int(options.minutes))),
+          m_stageMilliseconds(int(options.minutes * 60000 / m_stages)),
+          m_before(Census::take()),
+          m_window(std::make_unique<gallery::MainWindow>(gallery::GalleryOptions())),
+          m_user(m_window.get(), options.seed)
+    {
+        m_window->lockRestarts();
+        m_window->show();
+        connect(&m_user, &RandomUser::rested, this, &Soak::count);
+        m_out << Census::heading() << '\n' << m_before.row(QStringLiteral("before")) << '\n';
+        m_clock.start();
+        play();
+    }
+
+    /** What is wrong; empty where all is well. */
+    QStringList faults() const { return m_faults; }
+
+private:
+    void play()
+    {
+        m_user.start();
+        QTimer::singleShot(m_stageMilliseconds, &m_user, &RandomUser::rest);
+    }
+
+    void count()
+    {
+        m_counts.push_back(Census::take());
+        m_out << m_counts.back().row(QStringLiteral("after %1 s").arg(m_clock.elapsed() / 1000)) << '\n';
+        m_out.flush();
+        if (int(m_counts.size()) < m_stages)
+            play();
+        else
+            end();
+    }
+
+    void end()
+    {
+        m_window.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const Census after = Census::take();
+        m_out << after.row(QStringLiteral("closed")) << '\n' << m_user.operations() << " operations\n";
+        judge(after);
+        QCoreApplication::quit();
+    }
+
+    void judge(const Census &after)
+    {
+        const Census &warm = m_counts.at(std::size_t(m_stages * warmUp));
+        const Census &last = m_counts.back();
+        expect(last.heapKilobytes <= bound(warm.heapKilobytes, heapSlack), QStringLiteral("the heap has grown"));
+        expect(last.residentKilobytes <= bound(warm.residentKilobytes, residentSlack),
+               QStringLiteral("resident memory has grown"));
+        expect(!hasGrown(&Census::widgets), QStringLiteral("there are more and more widgets"));
+        expect(!hasGrown(&Census::timers), QStringLiteral("there are more and more timers"));
+        expect(after.widgets == m_before.widgets, QStringLiteral("widgets are left over: ") + Census::widgetClasses());
+        expect(after.timers == m_before.timers, QStringLiteral("timers are left over"));
+        expect(after.pixmapCacheLimit == m_before.pixmapCacheLimit,
+               QStringLiteral("the pixmap cache has another limit"));
+        expect(areStylesReleased(), QStringLiteral("a style is still held"));
+        expect(QApplication::overrideCursor() == nullptr, QStringLiteral("a cursor is left over"));
+    }
+
+    // What is left over once stays; a caret that blinks, or a tool tip on its way out, does not.
+    bool hasGrown(int Census::*number) const
+    {
+        return std::all_of(
+            m_counts.begin() + 1, m_counts.end(),
+            [this, number](const Census &later) { return later.*number > m_counts.front().*number; });
+    }
+
+    void expect(bool holds, const QString &fault)
+    {
+        if (!holds)
+            m_faults.append(fault);
+    }
+
+    const int m_stages;
+    const int m_stageMilliseconds;
+    const Census m_before;
+    std::unique_ptr<gallery::MainWindow> m_window;
+    RandomUser m_user;
+    std::vector<Census> m_counts;
+    QElapsedTimer m_clock;
+    QStringList m_faults;
+    QTextStream m_out{stdout};
+};
+
+int tell(const QStringList &faults)
+{
+    QTextStream out(stdout);
+    for (const QString &fault : faults)
+        out << "FAULT: " << fault << '\n';
+    if (faults.isEmpty())
+        out << "no fault\n";
+    else
+        Diary::tell();
+    return faults.isEmpty() ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Options options;
+    if (!readOptions(options)) {
+        QTextStream(stderr) << "zel_soak: --minutes and --seed take a number\n";
+        return wrongArguments;
+    }
+    qInstallMessageHandler(collect);
+    Diary::open(options.seed);
+    QTextStream(stdout) << QStringLiteral("seed %1, %2 minutes, Qt %3\n")
+                               .arg(options.seed)
+                               .arg(options.minutes)
+                               .arg(QLatin1String(qVersion()));
+    QStringList faults;
+    {
+        Soak soak(options);
+        QApplication::exec();
+        faults = soak.faults();
+    }
+    warnings.removeDuplicates();
+    for (const QString &warning : std::as_const(warnings))
+        faults.append(QStringLiteral("warned: ") + warning);
+    return tell(faults);
+}
