@@ -184,7 +184,10 @@ int CMessageBoxEx::showDialog()
     ZEL_LOG(zel::LogDetail, zel::CommonControls,
             QStringLiteral("CMessageBoxEx::showDialog <%1 x %2>").arg(width()).arg(height()));
     // Qt lets events in while it shows a splash screen, and the box may be over by now.
+    const QPointer<CMessageBoxEx> self(this); // whoever is told of it may destroy it
     const int result = isVisible() ? QDialog::exec() : QDialog::result();
+    if (self.isNull())
+        return QDialog::Rejected;
     if (!m_pContent.isNull()) {
         m_pContentLayout->removeWidget(m_pContent);
         m_pContent->setParent(nullptr);

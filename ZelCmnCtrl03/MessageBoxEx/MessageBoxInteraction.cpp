@@ -137,17 +137,23 @@ int CMessageBoxEx::setAutoClose(int seconds)
     return m_timerId;
 }
 
+// Whoever is told of the box may destroy it, here and below.
 void CMessageBoxEx::timerEvent(QTimerEvent *event)
 {
+    const QPointer<CMessageBoxEx> self(this);
     if (event->timerId() == m_timerId && m_autoCloseCount-- <= 0)
         endByCountDown();
-    Q_EMIT UpdateText();
+    if (!self.isNull())
+        Q_EMIT UpdateText();
 }
 
 void CMessageBoxEx::endByCountDown()
 {
     killTimer(m_timerId);
+    const QPointer<CMessageBoxEx> self(this);
     accept();
+    if (self.isNull())
+        return;
     // Hidden by now, the box would be closed by Qt 5 with its event and by Qt 6 without.
     QCloseEvent event;
     QCoreApplication::sendEvent(this, &event);
@@ -164,17 +170,20 @@ void CMessageBoxEx::buttonClicked()
     ZEL_LOG_SCOPE;
     int result = 0;
     bool endsBox = true;
+    const QPointer<CMessageBoxEx> self(this);
     for (int index = 0; index < m_numButtons; ++index) {
         if (m_pButtons[index] != sender())
             continue;
         Q_EMIT Button_Hit(m_buttons[index]);
-        if (m_popupButtons[index] == index) {
-            endsBox = false;
+        if (self.isNull())
+            return;
+        endsBox = m_popupButtons[index] != index;
+        result = m_buttons[index];
+        if (!endsBox)
             Q_EMIT Popup_Notify(m_pButtons[index]->text());
-        } else
-            result = m_buttons[index];
+        break;
     }
-    if (endsBox)
+    if (!self.isNull() && endsBox)
         done(result);
 }
 
