@@ -137,7 +137,8 @@ QFont UIGGetTooltipFont(int pixelSize, int weight, bool italic);
 QFont UIGGetFont(const QString &name);
 
 /**
- * A bitmap of the graphics directory by bare file name; null when the file is not found or no image.
+ * A bitmap of the graphics directory by bare file name; null when the file is not found, no image, or larger than
+ * longestBitmapSide.
  *
  * For a `devicePixelRatio` above 1 a "name@2x.png" beside "name.png" wins; the pixmap then says so by its own ratio.
  */

@@ -117,6 +117,10 @@ inline constexpr LookBitmap lookBitmaps[] = {
     {u"status-bottom-shadow.png", nullptr, nullptr},
 };
 
+/** The longest side of a bitmap that is loaded, in pixels. A longer one is no control's; some files unpack to
+ * gigabytes. */
+inline constexpr int longestBitmapSide = 4096;
+
 /** The strip of the busy indicators has to fill what its masks leave. */
 inline constexpr const char16_t *rainbowStripBitmap = u"status-rainbow.png";
 inline constexpr const char16_t *rainbowMaskBitmap = u"status-rainbow-mask-right.png";

@@ -30,6 +30,13 @@ QString withDisplayNames(const QString &path, QChar separator)
     return localized;
 }
 
+// Asked before the file is decoded.
+bool isTooLarge(const QImageReader &reader)
+{
+    const QSize size = reader.size();
+    return !size.isValid() || size.width() > longestBitmapSide || size.height() > longestBitmapSide;
+}
+
 // As QPixmap(path) does it: a file that has not changed is decoded once, as long as QPixmapCache keeps it. This key
 // takes a tenth of the time of Qt's own, which is made of dates and numbers in letters.
 QPixmap loadedPixmap(const QString &path, const Platform::FileStamp &stamp, qreal ratio)
@@ -40,6 +47,8 @@ QPixmap loadedPixmap(const QString &path, const Platform::FileStamp &stamp, qrea
     if (QPixmapCache::find(key, &pixmap))
         return pixmap;
     QImageReader reader(path);
+    if (isTooLarge(reader))
+        return pixmap;
     pixmap = QPixmap::fromImageReader(&reader);
     if (pixmap.isNull())
         return pixmap;
@@ -142,7 +151,10 @@ QImage UIGGetImage(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
     const QString path = CUIGraphics::findBitmap(fileName).path;
-    return path.isEmpty() ? QImage() : CUIGraphics::checked(QImage(path), path);
+    if (path.isEmpty())
+        return QImage();
+    QImageReader reader(path);
+    return CUIGraphics::checked(isTooLarge(reader) ? QImage() : reader.read(), path);
 }
 
 QIcon UIGGetIcon(const QString &fileName)

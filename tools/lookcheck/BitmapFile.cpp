@@ -1,5 +1,7 @@
 #include "BitmapFile.h"
 
+#include "UiGraphicsBitmaps.h"
+
 #include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
@@ -10,8 +12,7 @@ namespace lookcheck {
 
 namespace {
 
-// Far beyond any control. A small file can say of itself that it is of any size.
-constexpr int largestSide = 4096; // pixels
+// Far beyond any bitmap of a control.
 constexpr qint64 largestFile = qint64(16) * 1024 * 1024;
 
 BitmapFile failed(const QString &error)
@@ -43,7 +44,7 @@ BitmapFile readBitmap(const QString &path, QImage *image)
     if (reader.format().startsWith("svg"))
         return failed(QStringLiteral("This is a drawing, not a bitmap."));
     const QSize size = reader.size();
-    if (size.width() > largestSide || size.height() > largestSide)
+    if (size.width() > longestBitmapSide || size.height() > longestBitmapSide)
         return tooLarge(QStringLiteral("The bitmap is %1 x %2 pixels; no control is that large.")
                             .arg(size.width())
                             .arg(size.height()));
