@@ -123,5 +123,10 @@ LookOverrides readLookOverrides(const QString &path)
         nothing.error = QStringLiteral("This is no file.");
     else if (!file.open(QIODevice::ReadOnly))
         nothing.error = file.errorString();
-    return nothing.error.isEmpty() ? LookXmlReader(&file).read() : nothing;
+    return nothing.error.isEmpty() ? readLookOverrides(&file) : nothing;
+}
+
+LookOverrides readLookOverrides(QIODevice *document)
+{
+    return LookXmlReader(document).read();
 }
