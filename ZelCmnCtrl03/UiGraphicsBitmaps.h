@@ -117,8 +117,7 @@ inline constexpr LookBitmap lookBitmaps[] = {
     {u"status-bottom-shadow.png", nullptr, nullptr},
 };
 
-/** The longest side of a bitmap that is loaded, in pixels. A longer one is no control's; some files unpack to
- * gigabytes. */
+/** The longest side of a bitmap that is loaded, in pixels. No control has longer ones; some unpack to gigabytes. */
 inline constexpr int longestBitmapSide = 4096;
 
 /** The strip of the busy indicators has to fill what its masks leave. */
