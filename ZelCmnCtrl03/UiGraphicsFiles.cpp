@@ -80,14 +80,16 @@ CUIGraphics::FoundFile CUIGraphics::findBitmap(const QString &fileName)
 bool CUIGraphics::mayLoad(const FoundFile &file)
 {
     const QSize size = file.stamp.isFile ? QImageReader(file.path).size() : QSize();
-    if (file.stamp.isFile && size.width() <= largestBitmapSide && size.height() <= largestBitmapSide)
+    const bool isTooLarge = size.width() > largestBitmapSide || size.height() > largestBitmapSide;
+    if (size.isValid() && !isTooLarge)
         return true;
     m_use.unreadableBitmaps.insert(file.path);
-    ZEL_LOG(
-        zel::LogError, zel::UiGraphics,
-        QStringLiteral("CUIGraphics::mayLoad : %1 is not loaded: it is no file, or more than %2 pixels wide or high")
-            .arg(file.path)
-            .arg(largestBitmapSide));
+    if (isTooLarge || !file.stamp.isFile)
+        ZEL_LOG(zel::LogError, zel::UiGraphics,
+                QStringLiteral(
+                    "CUIGraphics::mayLoad : %1 is not loaded: it is no file, or more than %2 pixels wide or high")
+                    .arg(file.path)
+                    .arg(largestBitmapSide));
     return false;
 }
 

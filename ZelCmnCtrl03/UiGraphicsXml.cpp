@@ -189,6 +189,11 @@ LookOverrides readLookOverrides(const QString &path)
                          QStringLiteral("The file is larger than a megabyte and was not read."));
     if (!file.open(QIODevice::ReadOnly))
         return nothingOf(LookFileFault::Unreadable, file.errorString());
-    const LookOverrides overrides = LookXmlReader(&file).read();
-    return overrides.fault == LookFileFault::None ? overrides : withEncodingTold(overrides, &file);
+    return readLookOverrides(&file);
+}
+
+LookOverrides readLookOverrides(QIODevice *document)
+{
+    const LookOverrides overrides = LookXmlReader(document).read();
+    return overrides.fault == LookFileFault::None ? overrides : withEncodingTold(overrides, document);
 }

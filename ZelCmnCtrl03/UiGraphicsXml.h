@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVector>
 
+class QIODevice;
+
 /** The file's name, in the graphics directory and in that of a language. */
 inline const QString lookOverridesFile = QStringLiteral("UIGraphics.xml");
 
@@ -59,6 +61,9 @@ struct LookOverrides
  * A file that cannot be read, is too large, or is not well-formed to its end, gives nothing but its error.
  */
 LookOverrides readLookOverrides(const QString &path);
+
+/** The same of a document that is open already. */
+LookOverrides readLookOverrides(QIODevice *document);
 
 /** The value of a Color's text, as 0xAARRGGBB; 0, which is black, for one that is no hexadecimal number. */
 inline quint32 colorValue(const QString &text, bool *isNumber = nullptr)

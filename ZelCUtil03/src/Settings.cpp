@@ -125,10 +125,10 @@ void Settings::add(const std::filesystem::path &file)
     text << stream.rdbuf();
     if (!stream.is_open() || text.bad())
         m_warnings.push_back(unreadable(file.u8string(), std::generic_category().message(errno)));
-    parse(text.str(), file.u8string());
+    addText(text.str(), file.u8string());
 }
 
-void Settings::parse(const std::string &text, const std::string &fileName)
+void Settings::addText(const std::string &text, const std::string &fileName)
 {
     IniSource source;
     source.rest = text;

@@ -21,6 +21,9 @@ public:
     /** Reads @p files, the most important first. A missing file is normal; a faulty one leaves a warning. */
     explicit Settings(const std::vector<std::filesystem::path> &files);
 
+    /** Adds what a file of this text says, below what is here already; the name is for its warning. */
+    void addText(const std::string &text, const std::string &fileName);
+
     /** Null when no file has the key; an empty text when it is there without a value. */
     const std::string *find(std::string_view section, std::string_view key) const;
 
@@ -35,7 +38,6 @@ public:
 
 private:
     void add(const std::filesystem::path &file);
-    void parse(const std::string &text, const std::string &fileName);
 
     std::map<std::string, std::string> m_values;
     std::vector<std::string> m_warnings;

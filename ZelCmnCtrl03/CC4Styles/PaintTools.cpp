@@ -48,12 +48,16 @@ QString keyForRatio(const QString &key, qreal ratio)
     return qFuzzyCompare(ratio, 1.0) ? key : key + QLatin1Char('@') + QString::number(ratio);
 }
 
+constexpr int widestSlice = 32767; // pixels: the raster engine does not go beyond
+
 QPixmap scaledSlice(const QString &fileName, int height, qreal ratio)
 {
     const QPixmap pixmap = UIGGetPixmap(fileName, ratio);
-    if (pixmap.isNull())
-        return pixmap;
-    QPixmap slice = pixmap.scaledToHeight(qRound(height * ratio), Qt::FastTransformation);
+    const int newHeight = qRound(height * ratio);
+    // A slice of one row in a high button would become wider than anything that can be painted, and take all memory.
+    if (pixmap.isNull() || qint64(pixmap.width()) * newHeight > qint64(widestSlice) * pixmap.height())
+        return QPixmap();
+    QPixmap slice = pixmap.scaledToHeight(newHeight, Qt::FastTransformation);
     slice.setDevicePixelRatio(ratio);
     return slice;
 }

@@ -193,7 +193,9 @@ int CMessageBoxEx::showDialog()
             QStringLiteral("CMessageBoxEx::showDialog <%1 x %2>").arg(width()).arg(height()));
     // Qt lets events in while it shows a splash screen, and the box may be over by now.
     const int result = isVisible() ? QDialog::exec() : QDialog::result();
-    if (!self.isNull() && !m_pContent.isNull()) {
+    if (self.isNull())
+        return QDialog::Rejected;
+    if (!m_pContent.isNull()) {
         m_pContentLayout->removeWidget(m_pContent);
         m_pContent->setParent(nullptr);
     }

@@ -62,7 +62,8 @@ enum CC4_MESSAGEBOXEX_BUTTONS
  * A box with a parent is modal and casts a soft shadow over a picture of what lies behind it, taken when it is shown.
  * Where the window system gives no such picture it is painted without. A box without a parent has no shadow.
  *
- * A slot must not destroy the box while showDialog() runs.
+ * A box that is destroyed while showDialog() runs, by a slot or with its parent, ends with QDialog::Rejected and takes
+ * its content along. Not by a slot of MessageBox_Moved(), nor before the box is on the screen: Qt goes on with it then.
  */
 class ZELCMNCTRL_EXPORT CMessageBoxEx : public QDialog
 {

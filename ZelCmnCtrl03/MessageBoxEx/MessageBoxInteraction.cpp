@@ -138,6 +138,7 @@ int CMessageBoxEx::setAutoClose(int seconds)
     return m_timerId;
 }
 
+// Whoever is told of the box may destroy it, here and below.
 void CMessageBoxEx::timerEvent(QTimerEvent *event)
 {
     const QPointer<CMessageBoxEx> self(this);
@@ -171,17 +172,17 @@ void CMessageBoxEx::buttonClicked()
     const QPointer<CMessageBoxEx> self(this); // who hears of the click may destroy the box
     int result = 0;
     bool endsBox = true;
-    for (int index = 0; !self.isNull() && index < m_numButtons; ++index) {
+    for (int index = 0; index < m_numButtons; ++index) {
         if (m_pButtons[index] != sender())
             continue;
         Q_EMIT Button_Hit(m_buttons[index]);
         if (self.isNull())
             return;
-        if (m_popupButtons[index] == index) {
-            endsBox = false;
+        endsBox = m_popupButtons[index] != index;
+        result = m_buttons[index];
+        if (!endsBox)
             Q_EMIT Popup_Notify(m_pButtons[index]->text());
-        } else
-            result = m_buttons[index];
+        break;
     }
     if (!self.isNull() && endsBox)
         done(result);

@@ -2,6 +2,7 @@
 
 #include "ButtonEx/ButtonEx.h"
 #include "CC4Styles/CC4StyleFactory.h"
+#include "TextBoxEx/TextBoxEx.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -77,6 +78,8 @@ private Q_SLOTS:
     void unknownKindsGiveNothing();
     void buttonsShareOneStyle();
     void survivesAnApplicationThatChangesItsStyle();
+    void leavesControlsUnderStyleSheets_data();
+    void leavesControlsUnderStyleSheets();
     void changesUnderOpenWindows();
     void styleOfOneWidget();
     void leavesWithOpenWindows();
@@ -186,6 +189,33 @@ void tst_StyleFactory::survivesAnApplicationThatChangesItsStyle()
     const CButtonEx after;
     QVERIFY(qobject_cast<CCommonControlStyle *>(after.style()) != nullptr);
     QCOMPARE(QApplication::style(), after.style());
+}
+
+void tst_StyleFactory::leavesControlsUnderStyleSheets_data()
+{
+    QTest::addColumn<bool>("isOfTheWindow");
+    QTest::newRow("of the control") << false;
+    QTest::newRow("of its window") << true;
+}
+
+// Qt's style for style sheets goes on with the style that a control had before, without asking whether it is there.
+void tst_StyleFactory::leavesControlsUnderStyleSheets()
+{
+    QFETCH(bool, isOfTheWindow);
+    QWidget window;
+    CButtonEx button(&window);
+    CTextBoxEx textBox(&window);
+    window.show();
+    for (QWidget *widget : std::initializer_list<QWidget *>{&button, &textBox})
+        (isOfTheWindow ? &window : widget)->setStyleSheet(QStringLiteral("* { padding: 3px }"));
+    const QPointer<QStyle> main = CC4StyleFactory::getStyle(mainStyle);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QVERIFY(main.isNull());
+    window.grab();
+    window.setStyleSheet(QString());
+    button.setStyleSheet(QString());
+    QCOMPARE(button.style(), QApplication::style());
+    CC4StyleFactory::releaseStyle(mainStyle);
 }
 
 void tst_StyleFactory::changesUnderOpenWindows()

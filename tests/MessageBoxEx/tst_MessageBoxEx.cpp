@@ -15,6 +15,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QThread>
 #include <QTimer>
 #include <QTranslator>
 
@@ -140,6 +141,19 @@ int show(CMessageBoxEx &box, const Action &act)
     return box.showDialog();
 }
 
+// Qt lets events in already while it shows a box, and goes on with it then.
+void actInLoop(CMessageBoxEx &box, const Action &act)
+{
+    QTimer::singleShot(
+        1, &box,
+        [&box, act] {
+            if (QThread::currentThread()->loopLevel() > 0)
+                act(box);
+            else
+                actInLoop(box, act);
+        });
+}
+
 } // namespace
 
 class tst_MessageBoxEx : public HouseTest
@@ -164,6 +178,8 @@ private Q_SLOTS:
     void opensInTheMiddleWithNothingCut();
     void contentGoesBack();
     void helpIconStandsInTheLine();
+    void destroyedWhileShown_data();
+    void destroyedWhileShown();
     void blankHelp();
     void roads_data();
     void roads();
@@ -486,6 +502,35 @@ void tst_MessageBoxEx::helpIconStandsInTheLine()
         const int line = link->fontMetrics().boundingRect(help).height();
         QVERIFY(qAbs(icon->geometry().center().y() - (link->geometry().top() + line / 2)) <= 1);
     }
+}
+
+void tst_MessageBoxEx::destroyedWhileShown_data()
+{
+    const auto when = [](auto signal) -> Action {
+        return [signal](CMessageBoxEx &box) {
+            connect(&box, signal, &box, [&box] { delete box.parentWidget(); });
+            actInLoop(box, [](CMessageBoxEx &shown) { shownButtons(shown).constFirst()->click(); });
+        };
+    };
+    QTest::addColumn<Action>("arrange");
+    QTest::newRow("at any time") << Action(
+        [](CMessageBoxEx &box) { actInLoop(box, [](CMessageBoxEx &shown) { delete shown.parentWidget(); }); });
+    QTest::newRow("by a button") << when(&CMessageBoxEx::Button_Hit);
+    QTest::newRow("by a popup button") << when(&CMessageBoxEx::Popup_Notify);
+    QTest::newRow("by the count-down") << when(&CMessageBoxEx::UpdateText);
+    QTest::newRow("at its end") << when(&QDialog::finished);
+}
+
+void tst_MessageBoxEx::destroyedWhileShown()
+{
+    QFETCH(Action, arrange);
+    const QPointer<QWidget> parent(new QWidget);
+    auto *box = new CMessageBoxEx(parent, QStringLiteral("Print"), QStringLiteral("Save?"), QString(), QString(),
+                                  QMessageBox::Yes | popupFlag, QMessageBox::No);
+    box->setAutoClose(0); // the rows without a button that ends the box wait for it
+    arrange(*box);
+    QCOMPARE(box->showDialog(), int(QDialog::Rejected));
+    QVERIFY(parent.isNull());
 }
 
 void tst_MessageBoxEx::blankHelp()

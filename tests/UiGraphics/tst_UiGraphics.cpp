@@ -56,6 +56,7 @@ private Q_SLOTS:
     void filesOfTheLanguageComeFirst();
     void doubleResolution();
     void changedFilesAreReadAgain();
+    void hugeBitmapsAreLeftOut();
     void localizedPath();
 };
 
@@ -410,6 +411,18 @@ void tst_UiGraphics::changedFilesAreReadAgain()
     QCOMPARE(deployment.ask(words("pixmap Close.png 1 pixmap Close.png 1 replace")
                             << file << other << words("pixmap Close.png 1 pixmap other.png 1")),
              words("10x10@1 10x10@1 done 11x10@1 null"));
+}
+
+// The files say of themselves how large they are; unpacked they would take all memory.
+void tst_UiGraphics::hugeBitmapsAreLeftOut()
+{
+    const Deployment deployment;
+    deployment.addBitmap(QStringLiteral("Close.png"), QSize(4096, 1));
+    deployment.addBitmap(QStringLiteral("Help.png"), QSize(4097, 1));
+    deployment.addBitmap(QStringLiteral("restore.png"), QSize(1, 4097));
+    QCOMPARE(deployment.ask(words("pixmap Close.png 1 image Close.png pixmap Help.png 1 image Help.png "
+                                  "pixmap restore.png 1 image restore.png")),
+             words("4096x1@1 4096x1@1 null null null null"));
 }
 
 void tst_UiGraphics::localizedPath()
