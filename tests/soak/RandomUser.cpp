@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
@@ -236,19 +237,32 @@ void RandomUser::wheel()
     QCoreApplication::sendEvent(under, &event);
 }
 
+QWidget *RandomUser::keyReceiver() const
+{
+    QWidget *window = QApplication::activePopupWidget();
+    if (window == nullptr && QApplication::focusWidget() != nullptr)
+        return QApplication::focusWidget();
+    if (window == nullptr)
+        window = m_main;
+    return window->focusWidget() != nullptr ? window->focusWidget() : window;
+}
+
+// To the widget that has the keys. Not by QTest: of two events that it sends for a press the first may destroy the
+// window that it sends the second to.
 void RandomUser::typeKey()
 {
-    const QPointer<QWindow> window = chooseWindow();
-    if (window.isNull())
+    if (chooseWindow() == nullptr)
         return;
     const Qt::Key key = keys[number(int(std::size(keys)))];
     const Qt::KeyboardModifier modifier = modifiers[number(int(std::size(modifiers)))];
     if (key == Qt::Key_F4 && modifier == Qt::AltModifier)
         return; // the window manager's
     note(qPrintable(QStringLiteral("key 0x%1").arg(int(key), 0, 16)));
-    QTest::keyPress(window, key, modifier);
-    if (!window.isNull())
-        QTest::keyRelease(window, key, modifier);
+    const QString text = key < Qt::Key_Escape ? QString(QChar(ushort(key))).toLower() : QString();
+    for (const auto kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(kind, key, modifier, text);
+        QCoreApplication::sendEvent(keyReceiver(), &event);
+    }
 }
 
 void RandomUser::resizeWindow()

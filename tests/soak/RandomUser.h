@@ -47,6 +47,7 @@ private:
 
     int number(int below);
     QWindow *chooseWindow();
+    QWidget *keyReceiver() const;
     QPoint chooseSpot(const QWidget *widget);
     void note(const char *what, const QPoint &at = QPoint());
 
