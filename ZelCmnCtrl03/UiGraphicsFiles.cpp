@@ -83,8 +83,9 @@ bool CUIGraphics::mayLoad(const FoundFile &file)
     const bool isTooLarge = size.width() > largestBitmapSide || size.height() > largestBitmapSide;
     if (size.isValid() && !isTooLarge)
         return true;
+    const bool isNews = !m_use.unreadableBitmaps.contains(file.path); // and no record for every painting
     m_use.unreadableBitmaps.insert(file.path);
-    if (isTooLarge || !file.stamp.isFile)
+    if (isNews && (isTooLarge || !file.stamp.isFile))
         ZEL_LOG(zel::LogError, zel::UiGraphics,
                 QStringLiteral(
                     "CUIGraphics::mayLoad : %1 is not loaded: it is no file, or more than %2 pixels wide or high")
