@@ -14,6 +14,7 @@
 #include <QStringList>
 #include <QVector>
 
+class QImageReader;
 struct LookOverride;
 
 /**
@@ -88,7 +89,7 @@ private:
     static void GetCULValues(const QString &key);
     static FoundFile findFile(const QString &fileName);
     static FoundFile findBitmap(const QString &fileName);
-    static bool mayLoad(const FoundFile &file);
+    static bool mayLoad(const FoundFile &file, const QImageReader &reader);
     static QPixmap loadedPixmap(const FoundFile &file, qreal ratio);
     template <typename Picture>
     static Picture checked(const Picture &picture, const QString &path);

@@ -77,9 +77,9 @@ CUIGraphics::FoundFile CUIGraphics::findBitmap(const QString &fileName)
 
 // Asked before anything is decoded. Opening a pipe would wait for its writer, and a file of some kilobytes may hold a
 // bitmap that fills the memory.
-bool CUIGraphics::mayLoad(const FoundFile &file)
+bool CUIGraphics::mayLoad(const FoundFile &file, const QImageReader &reader)
 {
-    const QSize size = file.stamp.isFile ? QImageReader(file.path).size() : QSize();
+    const QSize size = file.stamp.isFile ? reader.size() : QSize();
     const bool isTooLarge = size.width() > largestBitmapSide || size.height() > largestBitmapSide;
     if (size.isValid() && !isTooLarge)
         return true;
@@ -111,9 +111,11 @@ QPixmap CUIGraphics::loadedPixmap(const FoundFile &file, qreal ratio)
     constexpr int stampLength = sizeof(stamp) / (sizeof(QChar));
     const QString key = file.path + QLatin1Char('*') + QString::fromRawData(stampText, stampLength);
     QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap) || !mayLoad(file))
+    if (QPixmapCache::find(key, &pixmap))
         return pixmap;
     QImageReader reader(file.path);
+    if (!mayLoad(file, reader))
+        return pixmap;
     pixmap = checked(QPixmap::fromImageReader(&reader), file.path);
     if (pixmap.isNull())
         return pixmap;
@@ -164,14 +166,16 @@ QImage UIGGetImage(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
     const CUIGraphics::FoundFile file = CUIGraphics::findBitmap(fileName);
-    if (file.path.isEmpty() || !CUIGraphics::mayLoad(file))
+    QImageReader reader(file.path);
+    if (file.path.isEmpty() || !CUIGraphics::mayLoad(file, reader))
         return QImage();
-    return CUIGraphics::checked(QImage(file.path), file.path);
+    return CUIGraphics::checked(reader.read(), file.path);
 }
 
 QIcon UIGGetIcon(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
     const CUIGraphics::FoundFile file = CUIGraphics::findBitmap(fileName);
-    return file.path.isEmpty() || !CUIGraphics::mayLoad(file) ? QIcon() : QIcon(file.path);
+    const bool isSound = !file.path.isEmpty() && CUIGraphics::mayLoad(file, QImageReader(file.path));
+    return isSound ? QIcon(file.path) : QIcon();
 }
