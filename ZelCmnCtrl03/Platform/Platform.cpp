@@ -69,6 +69,13 @@ QList<QScreen *> screensIn(const QRect &area)
     return screens;
 }
 
+// `area` counts as the screens do that lie beside each other.
+QPixmap pictureOfScreen(QScreen *screen, const QRect &area)
+{
+    const QRect part = area.translated(-screen->geometry().topLeft());
+    return screen->grabWindow(0, part.x(), part.y(), part.width(), part.height());
+}
+
 } // namespace
 
 bool registerPrivateFont(const QString &path)
@@ -137,6 +144,8 @@ std::unique_ptr<QStyle> createNativeStyle()
 QPixmap pictureOfDesktop(const QRect &area)
 {
     const QList<QScreen *> screens = screensIn(area);
+    if (screens.size() == 1 && screens.first()->geometry().contains(area))
+        return pictureOfScreen(screens.first(), area); // most often; the picture is large, and a copy takes its time
     qreal ratio = 1.0;
     for (const QScreen *screen : screens)
         ratio = std::max(ratio, screen->devicePixelRatio());
@@ -147,8 +156,7 @@ QPixmap pictureOfDesktop(const QRect &area)
     bool isEmpty = true;
     for (QScreen *screen : screens) {
         const QRect part = screen->geometry() & area;
-        const QRect onScreen = part.translated(-screen->geometry().topLeft());
-        const QPixmap seen = screen->grabWindow(0, onScreen.x(), onScreen.y(), onScreen.width(), onScreen.height());
+        const QPixmap seen = pictureOfScreen(screen, part);
         isEmpty = isEmpty && seen.isNull();
         painter.drawPixmap(part.translated(-area.topLeft()), seen);
     }
