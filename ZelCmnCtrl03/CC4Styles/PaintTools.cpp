@@ -128,6 +128,9 @@ QString stateKey(QLatin1String key, const QStyleOption *option, const QSize &siz
 
 qreal deviceRatio(const QPainter *painter)
 {
+    // Most painters scale nothing. A widget takes longer to tell its ratio than many a picture takes to be drawn.
+    if (painter->deviceTransform().type() <= QTransform::TxTranslate)
+        return 1.0;
     const QPaintDevice *device = painter->device();
     return device != nullptr ? device->devicePixelRatioF() : 1.0;
 }

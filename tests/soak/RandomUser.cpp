@@ -7,7 +7,7 @@
 #include <QCursor>
 #include <QKeyEvent>
 #include <QListWidget>
-#include <QTest>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -34,6 +34,35 @@ const Qt::Key keys[] = {Qt::Key_Tab,  Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_U
 
 const Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
                                           Qt::AltModifier};
+
+// The hand on a window, for as long as there is that window. It is no fault when it is outside by now: what a press or
+// a move opens has an event loop of its own, in which the window may have shrunk.
+class Hand
+{
+public:
+    explicit Hand(QWindow *window) : m_window(window) {}
+
+    void press(const QPoint &at, Qt::MouseButton button = Qt::LeftButton, QEvent::Type kind = QEvent::MouseButtonPress)
+    {
+        m_held = button;
+        send(kind, button, at);
+    }
+
+    void move(const QPoint &at) { send(QEvent::MouseMove, Qt::NoButton, at); }
+    void release(const QPoint &at) { send(QEvent::MouseButtonRelease, std::exchange(m_held, Qt::NoButton), at); }
+
+private:
+    void send(QEvent::Type kind, Qt::MouseButton button, const QPoint &at)
+    {
+        if (m_window.isNull())
+            return;
+        QMouseEvent event(kind, at, at, m_window->mapToGlobal(at), button, m_held, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &event);
+    }
+
+    QPointer<QWindow> m_window;
+    Qt::MouseButton m_held = Qt::NoButton;
+};
 
 QWidget *openTop()
 {
@@ -81,6 +110,8 @@ void RandomUser::closeSomething()
         m_quietTicks = 0;
         if (top != nullptr)
             top->close();
+        else
+            letGo();
         return;
     }
     if (m_quietTicks++ > 0)
@@ -111,6 +142,8 @@ void RandomUser::operate()
     m_patience = openTop() != nullptr ? m_patience + 1 : 0;
     if (m_patience > mostPatience)
         closeWindow();
+    else if (m_isDragging && openTop() == nullptr)
+        letGo();
     else if (number(rarely) == 0)
         resizeWindow();
     else if (number(rarely) == 0)
@@ -178,50 +211,57 @@ void RandomUser::movePointer()
     m_spot = chooseSpot(m_top);
     note("move", m_spot);
     QCursor::setPos(m_top->mapToGlobal(m_spot));
-    QTest::mouseMove(window, m_spot);
+    Hand(window).move(m_spot);
 }
 
 void RandomUser::click()
 {
-    const QPointer<QWindow> window = chooseWindow();
-    if (window.isNull())
+    QWindow *window = chooseWindow();
+    if (window == nullptr)
         return;
     const auto button = number(8) == 0 ? Qt::RightButton : Qt::LeftButton;
     const QPoint at = m_top->rect().contains(m_spot) ? m_spot : chooseSpot(m_top);
     note(button == Qt::LeftButton ? "click" : "right click", at);
-    QTest::mousePress(window, button, Qt::NoModifier, at);
-    if (!window.isNull())
-        QTest::mouseRelease(window, button, Qt::NoModifier, at);
+    Hand hand(window);
+    hand.press(at, button);
+    hand.release(at);
 }
 
 void RandomUser::doubleClick()
 {
-    const QPointer<QWindow> window = chooseWindow();
-    if (window.isNull())
+    QWindow *window = chooseWindow();
+    if (window == nullptr)
         return;
     const QPoint at = chooseSpot(m_top);
     note("double click", at);
-    for (int i = 0; i < 2; ++i) {
-        if (!window.isNull())
-            QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, at);
-        if (!window.isNull())
-            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, at);
+    Hand hand(window);
+    for (const auto kind : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+        hand.press(at, Qt::LeftButton, kind);
+        hand.release(at);
     }
 }
 
 void RandomUser::drag()
 {
-    const QPointer<QWindow> window = chooseWindow();
-    if (window.isNull())
+    QWindow *window = chooseWindow();
+    if (window == nullptr)
         return;
     const QPoint from = chooseSpot(m_top);
     const QPoint to = chooseSpot(m_top);
     note("drag", from);
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
-    for (int step = 1; step <= dragSteps && !window.isNull(); ++step)
-        QTest::mouseMove(window, from + (to - from) * step / dragSteps);
-    if (!window.isNull())
-        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
+    Hand hand(window);
+    hand.press(from);
+    m_isDragging = true;
+    for (int step = 1; step <= dragSteps; ++step)
+        hand.move(from + (to - from) * step / dragSteps);
+    m_isDragging = false;
+    hand.release(to);
+}
+
+// Of a text that is being dragged: that has an event loop of its own, in which a user can do nothing else.
+void RandomUser::letGo()
+{
+    Hand(m_main->windowHandle()).release(QPoint());
 }
 
 void RandomUser::wheel()
@@ -247,8 +287,7 @@ QWidget *RandomUser::keyReceiver() const
     return window->focusWidget() != nullptr ? window->focusWidget() : window;
 }
 
-// To the widget that has the keys. Not by QTest: of two events that it sends for a press the first may destroy the
-// window that it sends the second to.
+// To the widget that has the keys.
 void RandomUser::typeKey()
 {
     if (chooseWindow() == nullptr)

@@ -96,26 +96,34 @@ void MessageBoxBench::addLine(QGridLayout *grid, const Choice &choice)
     const int row = grid->rowCount();
     grid->addWidget(button, row, 0);
     grid->addWidget(answer, row, 1);
-    connect(button, &QAbstractButton::clicked, this, [this, choice, answer] { showBox(choice, answer); });
+    connect(button, &QAbstractButton::clicked, this,
+            [this, choice, answer = QPointer<QLabel>(answer)] { showBox(choice, answer); });
 }
 
-// Escape alone only reports: it is the application that lets it close the box.
-void MessageBoxBench::showBox(const Choice &choice, QLabel *answer)
+// The page may be gone when the box is over: a box without a parent blocks nothing, and one with a parent goes with it.
+void MessageBoxBench::showBox(const Choice &choice, const QPointer<QLabel> &answer)
 {
-    const std::unique_ptr<CMessageBoxEx> box =
-        makeBox(choice.form, choice.edge, m_settings.texts, choice.hasParent ? this : nullptr);
-    applyForeignStyle(box.get(), m_settings);
+    const QPointer<CMessageBoxEx> box =
+        makeBox(choice.form, choice.edge, m_settings.texts, choice.hasParent ? this : nullptr).release();
+    const QPointer<QWidget> content = contentOf(box);
+    applyForeignStyle(box, m_settings);
     QStringList signalsInOrder;
-    recordSignals(box.get(), [&signalsInOrder, answer](const QString &line) {
+    const auto record = [&signalsInOrder, answer](const QString &line) {
         signalsInOrder.append(line);
-        answer->setText(inShort(signalsInOrder));
-    });
-    connect(box.get(), &CMessageBoxEx::signal_EscapePressed, box.get(), &QWidget::close);
+        if (!answer.isNull())
+            answer->setText(inShort(signalsInOrder));
+    };
+    recordSignals(box, record);
+    // Escape alone only reports: it is the application that lets it close the box.
+    connect(box.data(), &CMessageBoxEx::signal_EscapePressed, box.data(), &QWidget::close);
+    connect(this, &QObject::destroyed, box.data(), &QWidget::close);
 
-    const int result = box->showDialog();
-    signalsInOrder.append(QStringLiteral("result 0x%1").arg(result, 0, 16));
-    answer->setText(inShort(signalsInOrder));
-    m_settings.report(QStringLiteral("%1: %2").arg(choice.caption, signalsInOrder.last()));
+    const MakerSettings settings = m_settings;
+    const QString result = QStringLiteral("result 0x%1").arg(box->showDialog(), 0, 16);
+    delete box;
+    delete content;
+    record(result);
+    settings.report(QStringLiteral("%1: %2").arg(choice.caption, result));
 }
 
 } // namespace gallery

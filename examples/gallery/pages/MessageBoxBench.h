@@ -3,6 +3,7 @@
 #include "MessageBoxForms.h"
 #include "Specimen.h"
 
+#include <QPointer>
 #include <QWidget>
 
 class QGridLayout;
@@ -30,7 +31,7 @@ private:
     static std::vector<Choice> choices();
 
     void addLine(QGridLayout *grid, const Choice &choice);
-    void showBox(const Choice &choice, QLabel *answer);
+    void showBox(const Choice &choice, const QPointer<QLabel> &answer);
 
     MakerSettings m_settings;
 };

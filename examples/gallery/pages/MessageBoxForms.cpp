@@ -14,10 +14,12 @@ constexpr int yesOrNo = QMessageBox::Yes | QMessageBox::Default;
 constexpr int optionsButton = QMessageBox::Apply | CMessageBoxEx::popupButton;
 constexpr int allTitleButtons = 7;
 constexpr int countDownSeconds = 5;
+constexpr QLatin1String orderName("order");
 
 QWidget *makeOrder(const OrderTexts &texts)
 {
     auto *order = new QWidget;
+    order->setObjectName(orderName);
     auto *form = new QFormLayout(order);
     form->setContentsMargins(0, 0, 0, 0);
     auto *copies = new QSpinBox;
@@ -122,6 +124,11 @@ std::unique_ptr<CMessageBoxEx> makeBox(BoxForm form, BoxEdge edge, const SampleT
     case BoxForm::LongTexts: return maker.withLongTexts();
     }
     return nullptr;
+}
+
+QWidget *contentOf(const CMessageBoxEx *box)
+{
+    return box->findChild<QWidget *>(orderName);
 }
 
 } // namespace gallery
