@@ -7,6 +7,8 @@
 #include <QImageReader>
 #include <QPixmapCache>
 
+#include <cstring>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -107,9 +109,10 @@ Picture CUIGraphics::checked(const Picture &picture, const QString &path)
 QPixmap CUIGraphics::loadedPixmap(const FoundFile &file, qreal ratio)
 {
     const qint64 stamp[] = {file.stamp.written, file.stamp.size};
-    const auto *stampText = reinterpret_cast<const QChar *>(stamp); // nobody reads this key
-    constexpr int stampLength = sizeof(stamp) / (sizeof(QChar));
-    const QString key = file.path + QLatin1Char('*') + QString::fromRawData(stampText, stampLength);
+    QChar stampText[2 * sizeof(qint64) / sizeof(QChar)]; // nobody reads this key
+    static_assert(sizeof(stampText) == sizeof(stamp));
+    std::memcpy(static_cast<void *>(stampText), stamp, sizeof(stamp));
+    const QString key = file.path + QLatin1Char('*') + QString::fromRawData(stampText, int(std::size(stampText)));
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap))
         return pixmap;
@@ -176,6 +179,12 @@ QIcon UIGGetIcon(const QString &fileName)
 {
     CUIGraphics::initializeUIG();
     const CUIGraphics::FoundFile file = CUIGraphics::findBitmap(fileName);
-    const bool isSound = !file.path.isEmpty() && CUIGraphics::mayLoad(file, QImageReader(file.path));
-    return isSound ? QIcon(file.path) : QIcon();
+    if (file.path.isEmpty() || !CUIGraphics::mayLoad(file, QImageReader(file.path)))
+        return QIcon();
+    // An icon that is made from a path takes the twin along.
+    const QString twin = doubleResolutionPath(file.path);
+    const Platform::FileStamp stamp = Platform::fileStamp(twin);
+    if (stamp.exists() && !CUIGraphics::mayLoad({twin, stamp}, QImageReader(twin)))
+        return CUIGraphics::loadedPixmap(file, 1.0);
+    return QIcon(file.path);
 }

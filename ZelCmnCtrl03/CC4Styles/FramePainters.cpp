@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
+// The pen and antialiasing stay set: who draws on after a frame counts on it.
 void CCommonControlStyle::drawFrame(const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
     Q_UNUSED(widget)

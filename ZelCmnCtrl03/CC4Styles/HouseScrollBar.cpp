@@ -66,6 +66,8 @@ QImage uprightPiece(const Strip<Count> &strip)
 void drawUpright(QPainter *painter, const QRect &area, int first, const QImage &piece)
 {
     const int width = std::min(piece.width(), area.width() - first);
+    if (width <= 0)
+        return; // drawImage() takes that for all of the piece
     for (int y = 0; y < area.height(); y += pieceLength) {
         const QRect visible(0, 0, width, std::min(pieceLength, area.height() - y));
         painter->drawImage(area.topLeft() + QPoint(first, y), piece, visible);

@@ -67,7 +67,8 @@ void fillShadow(QPainter *painter, const QRect &box, QColor color)
 
 QRect wholeDesktop()
 {
-    return QGuiApplication::primaryScreen()->virtualGeometry();
+    const QScreen *screen = QGuiApplication::primaryScreen(); // none once the last one has been taken away
+    return screen != nullptr ? screen->virtualGeometry() : QRect();
 }
 
 } // namespace

@@ -149,6 +149,8 @@ QPixmap pictureOfDesktop(const QRect &area)
     qreal ratio = 1.0;
     for (const QScreen *screen : screens)
         ratio = std::max(ratio, screen->devicePixelRatio());
+    if (screens.isEmpty())
+        return QPixmap();
     QPixmap picture(area.size() * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);

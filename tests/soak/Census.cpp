@@ -5,6 +5,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFile>
+#include <QPixmapCache>
 #include <QSet>
 #include <QWidget>
 
@@ -88,8 +89,10 @@ Census Census::take()
     Census census;
     census.widgets = int(::widgets().size());
     census.timers = runningTimers();
-    census.pixmapCacheLimit = QPixmapCache::cacheLimit();
+    const long withPixmaps = ::heapKilobytes();
+    QPixmapCache::clear();
     census.heapKilobytes = ::heapKilobytes();
+    census.pixmapCacheKilobytes = withPixmaps - census.heapKilobytes;
     census.residentKilobytes = ::residentKilobytes();
     return census;
 }
@@ -104,7 +107,7 @@ QString Census::widgetClasses()
 
 QString Census::heading()
 {
-    return QStringLiteral("                       heap KB  resident KB   widgets   timers   pixmap cache limit KB");
+    return QStringLiteral("                       heap KB  pixmap cache KB  resident KB   widgets   timers");
 }
 
 QString Census::row(const QString &when) const
@@ -112,10 +115,10 @@ QString Census::row(const QString &when) const
     return QStringLiteral("%1 %2 %3 %4 %5 %6")
         .arg(when, -16)
         .arg(heapKilobytes, 12)
+        .arg(pixmapCacheKilobytes, 16)
         .arg(residentKilobytes, 12)
         .arg(widgets, 9)
-        .arg(timers, 8)
-        .arg(pixmapCacheLimit, 23);
+        .arg(timers, 8);
 }
 
 bool areStylesReleased()

@@ -1,17 +1,17 @@
 // What the process holds: counted at rest, on the first page, so that any two counts should be the same.
 #pragma once
 
-#include <QPixmapCache>
 #include <QString>
 
 struct Census
 {
-    long heapKilobytes = 0;     // in use
-    long residentKilobytes = 0; // with what the sanitizers remember, each new stack for good
+    long heapKilobytes = 0;        // in use, without the next
+    long pixmapCacheKilobytes = 0; // that QPixmapCache gave back when it was cleared
+    long residentKilobytes = 0;    // with what the sanitizers remember, each new stack for good
     int widgets = 0;
     int timers = 0; // running, of widgets and of what belongs to them or to the application
-    int pixmapCacheLimit = 0;
 
+    /** Clears QPixmapCache on the way. */
     static Census take();
     /** The classes of all widgets, for a report. */
     static QString widgetClasses();

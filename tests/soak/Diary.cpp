@@ -7,6 +7,11 @@
 
 #include <unistd.h>
 
+#ifdef __SANITIZE_ADDRESS__
+// Of the sanitizer's runtime; GCC does not always come with the header.
+extern "C" void __sanitizer_set_death_callback(void (*)()); // NOLINT(bugprone-reserved-identifier): its name
+#endif
+
 namespace {
 
 constexpr std::size_t entryCount = 50;
@@ -39,7 +44,9 @@ void Diary::open(unsigned seed)
     std::snprintf(heading.data(), heading.size(), "soak: the last operations, with --seed %u:", seed);
     for (const int signal : {SIGABRT, SIGALRM, SIGFPE, SIGTERM})
         std::signal(signal, endBySignal);
-#ifndef __SANITIZE_ADDRESS__ // which has a handler of its own, and calls the function below
+#ifdef __SANITIZE_ADDRESS__
+    __sanitizer_set_death_callback(Diary::tell); // for signals, too
+#else
     std::signal(SIGSEGV, endBySignal);
     std::signal(SIGBUS, endBySignal);
 #endif
@@ -59,11 +66,4 @@ void Diary::tell()
     say(heading.data());
     for (std::size_t i = written > entryCount ? written - entryCount : 0; i < written; ++i)
         say(entries[i % entryCount].data());
-}
-
-// Called by the sanitizer before its report.
-extern "C" void __asan_on_error();
-extern "C" void __asan_on_error() // NOLINT(bugprone-reserved-identifier): its name
-{
-    Diary::tell();
 }
