@@ -142,7 +142,7 @@ void RandomUser::operate()
     m_patience = openTop() != nullptr ? m_patience + 1 : 0;
     if (m_patience > mostPatience)
         closeWindow();
-    else if (m_isDragging && openTop() == nullptr)
+    else if (m_isDragging)
         letGo();
     else if (number(rarely) == 0)
         resizeWindow();
@@ -258,7 +258,8 @@ void RandomUser::drag()
     hand.release(to);
 }
 
-// Of a text that is being dragged: that has an event loop of its own, in which a user can do nothing else.
+// Of a text that is being dragged: the only thing that runs an event loop while the pointer moves, and in which a user
+// can do nothing else.
 void RandomUser::letGo()
 {
     Hand(m_main->windowHandle()).release(QPoint());
