@@ -1,8 +1,8 @@
 #include "Pages.h"
 
 #include "MenuBarWindow.h"
-#include "MenuBench.h"
 #include "MenuEntries.h"
+#include "MenuTrials.h"
 #include "Panels.h"
 
 #include <ZelCmnCtrl03/CMenuEx>
@@ -48,9 +48,9 @@ QWidget *makeMenuBarWindow(State state, const MakerSettings &settings, QWidget *
     return window;
 }
 
-QWidget *makeBench(State, const MakerSettings &settings, QWidget *parent)
+QWidget *makeTrials(State, const MakerSettings &settings, QWidget *parent)
 {
-    return new MenuBench(settings, parent);
+    return new MenuTrials(settings, parent);
 }
 
 const std::vector<Row> pictureRows = {
@@ -93,7 +93,7 @@ PageDescription menusPage()
              table(pictureRows, pictureStates)},
             {QStringLiteral("Working controls"),
              QStringLiteral("The submenu of a CMenuEx opens by click or by key, not by waiting."),
-             workingControls({{QString(), makeBench}})},
+             workingControls({{QString(), makeTrials}})},
             {QStringLiteral("A window with a menu bar"),
              QStringLiteral("Its menus are of Qt's own kind. One is longer than most screens, one is disabled."),
              table(barRows, barStates)},

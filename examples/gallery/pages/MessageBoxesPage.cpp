@@ -1,7 +1,7 @@
 #include "Pages.h"
 
 #include "MakerTools.h"
-#include "MessageBoxBench.h"
+#include "MessageBoxTrials.h"
 #include "Panels.h"
 
 #include <ZelCmnCtrl03/CMessageBoxEx>
@@ -48,10 +48,10 @@ std::vector<Specimen> otherBoxes()
     };
 }
 
-QWidget *makeBench(State state, const MakerSettings &settings, QWidget *parent)
+QWidget *makeTrials(State state, const MakerSettings &settings, QWidget *parent)
 {
     Q_UNUSED(state)
-    return new MessageBoxBench(settings, parent);
+    return new MessageBoxTrials(settings, parent);
 }
 
 } // namespace
@@ -75,7 +75,7 @@ PageDescription messageBoxesPage()
             {QStringLiteral("Working controls"),
              QStringLiteral("Each button shows its box; the signals of the box follow in the order in which they "
                             "fire. Escape closes these boxes because the gallery answers it."),
-             workingControls({{QString(), makeBench}})},
+             workingControls({{QString(), makeTrials}})},
         }};
 }
 

@@ -2,7 +2,7 @@
 
 #include "MakerTools.h"
 #include "Panels.h"
-#include "ProgressBench.h"
+#include "ProgressTrials.h"
 
 #include <ZelCmnCtrl03/CProgressBarDialogEx>
 #include <ZelCmnCtrl03/CProgressBarEx>
@@ -145,9 +145,9 @@ const std::vector<Row> dialogRows = {
 
 const std::vector<Column> pictures = {{QStringLiteral("As a picture"), State::Normal}};
 
-QWidget *makeBench(State, const MakerSettings &settings, QWidget *parent)
+QWidget *makeTrials(State, const MakerSettings &settings, QWidget *parent)
 {
-    return new ProgressBench(settings, parent);
+    return new ProgressTrials(settings, parent);
 }
 
 } // namespace
@@ -160,7 +160,7 @@ PageDescription progressPage()
         {
             {QStringLiteral("Working controls"),
              QStringLiteral("The panel lies over this window; the dialogs are popups."),
-             workingControls({{QString(), makeBench}})},
+             workingControls({{QString(), makeTrials}})},
             {QStringLiteral("The rainbow strip"),
              QStringLiteral("It scrolls for ever, without a seam, and counts nothing."), table(stripRows, pictures)},
             {QStringLiteral("The busy panel"), QStringLiteral("It is as wide as its longest label has been."),

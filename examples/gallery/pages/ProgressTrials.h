@@ -11,16 +11,16 @@ class CProgressBarDialogEx;
 namespace gallery {
 
 /** Buttons that put the progress dialogs to work. */
-class ProgressBench : public QWidget
+class ProgressTrials : public QWidget
 {
     Q_OBJECT
 
 public:
-    ProgressBench(const MakerSettings &settings, QWidget *parent);
-    ~ProgressBench() override;
+    ProgressTrials(const MakerSettings &settings, QWidget *parent);
+    ~ProgressTrials() override;
 
 private:
-    void addLine(const QString &caption, const QString &note, void (ProgressBench::*action)());
+    void addLine(const QString &caption, const QString &note, void (ProgressTrials::*action)());
     void copyFiles();
     void countFiles();
     void growPanel();

@@ -1,4 +1,4 @@
-#include "MessageBoxBench.h"
+#include "MessageBoxTrials.h"
 
 #include "MakerTools.h"
 
@@ -57,7 +57,7 @@ void recordSignals(CMessageBoxEx *box, const Record &record)
 
 } // namespace
 
-std::vector<MessageBoxBench::Choice> MessageBoxBench::choices()
+std::vector<MessageBoxTrials::Choice> MessageBoxTrials::choices()
 {
     return {
         {QStringLiteral("Plain"), BoxForm::OneButton},
@@ -76,7 +76,8 @@ std::vector<MessageBoxBench::Choice> MessageBoxBench::choices()
     };
 }
 
-MessageBoxBench::MessageBoxBench(const MakerSettings &settings, QWidget *parent) : QWidget(parent), m_settings(settings)
+MessageBoxTrials::MessageBoxTrials(const MakerSettings &settings, QWidget *parent)
+    : QWidget(parent), m_settings(settings)
 {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -88,7 +89,7 @@ MessageBoxBench::MessageBoxBench(const MakerSettings &settings, QWidget *parent)
     resize(sizeHint());
 }
 
-void MessageBoxBench::addLine(QGridLayout *grid, const Choice &choice)
+void MessageBoxTrials::addLine(QGridLayout *grid, const Choice &choice)
 {
     auto *button = new CButtonEx;
     button->setText(choice.caption);
@@ -101,7 +102,7 @@ void MessageBoxBench::addLine(QGridLayout *grid, const Choice &choice)
 }
 
 // The page may be gone when the box is over: a box without a parent blocks nothing, and one with a parent goes with it.
-void MessageBoxBench::showBox(const Choice &choice, const QPointer<QLabel> &answer)
+void MessageBoxTrials::showBox(const Choice &choice, const QPointer<QLabel> &answer)
 {
     const QPointer<CMessageBoxEx> box =
         makeBox(choice.form, choice.edge, m_settings.texts, choice.hasParent ? this : nullptr).release();

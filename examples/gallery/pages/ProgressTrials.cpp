@@ -1,4 +1,4 @@
-#include "ProgressBench.h"
+#include "ProgressTrials.h"
 
 #include "FileCopy.h"
 #include "FileCount.h"
@@ -32,7 +32,7 @@ void moveToMiddle(QWidget *popup, const QSize &size, const QWidget *of)
 
 } // namespace
 
-ProgressBench::ProgressBench(const MakerSettings &settings, QWidget *parent) : QWidget(parent), m_settings(settings)
+ProgressTrials::ProgressTrials(const MakerSettings &settings, QWidget *parent) : QWidget(parent), m_settings(settings)
 {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -42,27 +42,27 @@ ProgressBench::ProgressBench(const MakerSettings &settings, QWidget *parent) : Q
         QStringLiteral("Copy files"),
         QStringLiteral("CProgressDialogEx over %1 files that are really copied. Escape or a click beside it cancels.")
             .arg(fileCount),
-        &ProgressBench::copyFiles);
+        &ProgressTrials::copyFiles);
     addLine(QStringLiteral("Count files"),
             QStringLiteral("CRainbowProgressDialog over work of unknown length. Escape or a click beside it cancels."),
-            &ProgressBench::countFiles);
+            &ProgressTrials::countFiles);
     addLine(QStringLiteral("Growing label"),
             QStringLiteral("CProgressBarDialogEx, wider with every word until the application closes it."),
-            &ProgressBench::growPanel);
+            &ProgressTrials::growPanel);
     addLine(QStringLiteral("Close by itself"),
             QStringLiteral("CProgressBarDialogEx, closed by its own timer after %1 seconds.").arg(closeInterval / 1000),
-            &ProgressBench::closePanelByItself);
-    connect(&m_growth, &QTimer::timeout, this, &ProgressBench::growLabel);
+            &ProgressTrials::closePanelByItself);
+    connect(&m_growth, &QTimer::timeout, this, &ProgressTrials::growLabel);
     applyForeignStyle(this, settings);
     resize(sizeHint());
 }
 
-ProgressBench::~ProgressBench()
+ProgressTrials::~ProgressTrials()
 {
     delete m_panel;
 }
 
-void ProgressBench::addLine(const QString &caption, const QString &note, void (ProgressBench::*action)())
+void ProgressTrials::addLine(const QString &caption, const QString &note, void (ProgressTrials::*action)())
 {
     auto *grid = static_cast<QGridLayout *>(layout());
     const int row = grid->rowCount();
@@ -73,7 +73,7 @@ void ProgressBench::addLine(const QString &caption, const QString &note, void (P
     grid->addWidget(new QLabel(note), row, 1, Qt::AlignLeft);
 }
 
-void ProgressBench::copyFiles()
+void ProgressTrials::copyFiles()
 {
     auto *dialog = new CProgressDialogEx(this);
     auto *work = new FileCopy(fileCount, dialog);
@@ -100,7 +100,7 @@ void ProgressBench::copyFiles()
     delete dialog;
 }
 
-void ProgressBench::countFiles()
+void ProgressTrials::countFiles()
 {
     auto *dialog = new CRainbowProgressDialog(this);
     auto *work = new FileCount(dialog);
@@ -122,7 +122,7 @@ void ProgressBench::countFiles()
     work->start();
 }
 
-void ProgressBench::showPanel()
+void ProgressTrials::showPanel()
 {
     m_growth.stop();
     delete m_panel;
@@ -134,14 +134,14 @@ void ProgressBench::showPanel()
     m_panel->move(window()->rect().center() - m_panel->rect().center());
 }
 
-void ProgressBench::growPanel()
+void ProgressTrials::growPanel()
 {
     showPanel();
     m_words = 0;
     m_growth.start(growthInterval);
 }
 
-void ProgressBench::growLabel()
+void ProgressTrials::growLabel()
 {
     const QStringList words = m_settings.texts.order.tip.split(QLatin1Char(' ')).mid(0, 12);
     if (m_panel.isNull() || m_words == words.size()) {
@@ -155,7 +155,7 @@ void ProgressBench::growLabel()
     m_panel->move(window()->rect().center() - m_panel->rect().center());
 }
 
-void ProgressBench::closePanelByItself()
+void ProgressTrials::closePanelByItself()
 {
     showPanel();
     m_panel->setAutoClose(closeInterval);

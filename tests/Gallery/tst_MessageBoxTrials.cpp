@@ -24,7 +24,7 @@ CMessageBoxEx *openBox()
 
 } // namespace
 
-class tst_MessageBoxBench : public HouseTest
+class tst_MessageBoxTrials : public HouseTest
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ private:
     static bool runBox(gallery::MainWindow &window, const QString &caption, Action whileOpen);
 };
 
-void tst_MessageBoxBench::showPage(gallery::MainWindow &window, const QString &name)
+void tst_MessageBoxTrials::showPage(gallery::MainWindow &window, const QString &name)
 {
     for (int row = 0; row < window.pageList()->count(); ++row)
         if (window.pageList()->item(row)->data(Qt::UserRole).toString() == name)
@@ -48,7 +48,7 @@ void tst_MessageBoxBench::showPage(gallery::MainWindow &window, const QString &n
 }
 
 template <typename Action>
-bool tst_MessageBoxBench::runBox(gallery::MainWindow &window, const QString &caption, Action whileOpen)
+bool tst_MessageBoxTrials::runBox(gallery::MainWindow &window, const QString &caption, Action whileOpen)
 {
     const QList<QAbstractButton *> buttons = window.findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons) {
@@ -67,14 +67,14 @@ bool tst_MessageBoxBench::runBox(gallery::MainWindow &window, const QString &cap
     return false;
 }
 
-void tst_MessageBoxBench::leavesNothing_data()
+void tst_MessageBoxTrials::leavesNothing_data()
 {
     QTest::addColumn<QString>("caption");
     for (const char *caption : {"Plain", "Around a widget", "Widget and help", "Without a parent"})
         QTest::newRow(caption) << QString::fromLatin1(caption);
 }
 
-void tst_MessageBoxBench::leavesNothing()
+void tst_MessageBoxTrials::leavesNothing()
 {
     QFETCH(QString, caption);
     gallery::MainWindow window{gallery::GalleryOptions()};
@@ -84,7 +84,7 @@ void tst_MessageBoxBench::leavesNothing()
     QCOMPARE(QApplication::allWidgets().size(), before);
 }
 
-void tst_MessageBoxBench::pageGoesBeforeItsBox()
+void tst_MessageBoxTrials::pageGoesBeforeItsBox()
 {
     gallery::MainWindow window{gallery::GalleryOptions()};
     showPage(window, QStringLiteral("message-boxes"));
@@ -97,5 +97,5 @@ void tst_MessageBoxBench::pageGoesBeforeItsBox()
     QVERIFY(left.isNull());
 }
 
-HOUSE_TEST_MAIN(tst_MessageBoxBench)
-#include "tst_MessageBoxBench.moc"
+HOUSE_TEST_MAIN(tst_MessageBoxTrials)
+#include "tst_MessageBoxTrials.moc"

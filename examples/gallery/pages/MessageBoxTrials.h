@@ -12,12 +12,12 @@ class QLabel;
 namespace gallery {
 
 /** A button for each form of message box, and beside it the signals of its last box in order, and the result. */
-class MessageBoxBench : public QWidget
+class MessageBoxTrials : public QWidget
 {
     Q_OBJECT
 
 public:
-    MessageBoxBench(const MakerSettings &settings, QWidget *parent);
+    MessageBoxTrials(const MakerSettings &settings, QWidget *parent);
 
 private:
     /** A form of box as the user chooses it. */

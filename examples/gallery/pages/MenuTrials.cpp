@@ -1,4 +1,4 @@
-#include "MenuBench.h"
+#include "MenuTrials.h"
 
 #include "MenuEntries.h"
 
@@ -33,7 +33,7 @@ void addLine(QGridLayout *grid, const QString &caption, QLabel *answer)
 
 } // namespace
 
-MenuBench::MenuBench(const MakerSettings &settings, QWidget *parent)
+MenuTrials::MenuTrials(const MakerSettings &settings, QWidget *parent)
     : QWidget(parent),
       m_houseMenu(new CMenuEx(this)),
       m_plainMenu(new QMenu(this)),
@@ -49,12 +49,12 @@ MenuBench::MenuBench(const MakerSettings &settings, QWidget *parent)
     addLine(grid, QStringLiteral("Pointer on the CMenuEx:"), m_pointer);
     m_choice->setText(QStringLiteral("nothing yet"));
     showPointer();
-    connect(&m_pointerTimer, &QTimer::timeout, this, &MenuBench::showPointer);
+    connect(&m_pointerTimer, &QTimer::timeout, this, &MenuTrials::showPointer);
     m_pointerTimer.start(pointerInterval);
     resize(sizeHint());
 }
 
-void MenuBench::addHouseMenu(const MakerSettings &settings)
+void MenuTrials::addHouseMenu(const MakerSettings &settings)
 {
     fillMenu(m_houseMenu, settings.texts);
     auto *button = new CButtonEx;
@@ -69,7 +69,7 @@ void MenuBench::addHouseMenu(const MakerSettings &settings)
     m_houseMenu->setStyle(settings.foreignStyle);
 }
 
-void MenuBench::addPlainMenu(const MakerSettings &settings)
+void MenuTrials::addPlainMenu(const MakerSettings &settings)
 {
     fillMenu(m_plainMenu, settings.texts);
     auto *button = new QPushButton(QStringLiteral("Open plain menu"));
@@ -83,7 +83,7 @@ void MenuBench::addPlainMenu(const MakerSettings &settings)
     m_plainMenu->setStyle(settings.foreignStyle);
 }
 
-void MenuBench::showChoice(const QMenu *menu, const QAction *action)
+void MenuTrials::showChoice(const QMenu *menu, const QAction *action)
 {
     const QString kind = menu == m_houseMenu ? QStringLiteral("CMenuEx") : QStringLiteral("QMenu");
     const QString checked = action->isChecked() ? QStringLiteral(" (checked)") : QString();
@@ -91,7 +91,7 @@ void MenuBench::showChoice(const QMenu *menu, const QAction *action)
 }
 
 // The menu has no signal for it.
-void MenuBench::showPointer()
+void MenuTrials::showPointer()
 {
     m_pointer->setText(m_houseMenu->cursorOnMenu() ? QStringLiteral("yes") : QStringLiteral("no"));
 }

@@ -13,12 +13,12 @@ class QMenu;
 namespace gallery {
 
 /** A house menu and a plain one to open, with what was chosen and whether the pointer is on the house menu. */
-class MenuBench : public QWidget
+class MenuTrials : public QWidget
 {
     Q_OBJECT
 
 public:
-    MenuBench(const MakerSettings &settings, QWidget *parent);
+    MenuTrials(const MakerSettings &settings, QWidget *parent);
 
 private:
     void addHouseMenu(const MakerSettings &settings);
