@@ -24,6 +24,13 @@
 
 namespace zel {
 
+/** Whether Qt keeps the accessible interface that an object has been given before its class was known. */
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+inline constexpr bool keepsEarlyAccessible = false;
+#else
+inline constexpr bool keepsEarlyAccessible = true;
+#endif
+
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 using EnterEvent = QEnterEvent;
 #else
