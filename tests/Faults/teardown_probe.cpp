@@ -11,6 +11,7 @@
 #include "TextBoxEx/TextBoxEx.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QMap>
 #include <QPointer>
 #include <QStyleFactory>
@@ -18,6 +19,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 
@@ -25,6 +27,13 @@ namespace {
 
 QPointer<QApplication> application;
 QPointer<QWidget> window;
+
+constexpr QPoint shadowFromCorner(11, 11);
+
+void tell(const char *what)
+{
+    QTextStream(stdout) << what << '\n';
+}
 
 template <typename Control>
 Control *addTo(QWidget *parent)
@@ -57,7 +66,8 @@ void openOwnedMessageBox()
     auto *box =
         new CMessageBoxEx(window, QStringLiteral("Print"), QStringLiteral("Out of paper"), QString(), QString());
     box->setAutoClose(60);
-    box->showDialog();
+    if (box->showDialog() != QDialog::Rejected)
+        tell("answered");
 }
 
 void openMenu()
@@ -105,42 +115,109 @@ const QMap<QString, std::function<void()>> openers{
     {QStringLiteral("bar"), openBar},
 };
 
-bool isSomethingOpen()
+// What waits for the user; null where nothing does.
+QWidget *whatIsOpen()
 {
-    const auto *bar = window->findChild<CProgressBarDialogEx *>(); // a part of the window
-    return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
-           (bar != nullptr && bar->isVisible());
+    if (QWidget *dialog = QApplication::activeModalWidget())
+        return dialog;
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup;
+    auto *bar = window.isNull() ? nullptr : window->findChild<CProgressBarDialogEx *>(); // a part of the window
+    return bar != nullptr && bar->isVisible() ? bar : nullptr;
 }
 
-void quitSoon()
+void tellIfOpen()
 {
-    QTimer::singleShot(100, application, &QCoreApplication::quit);
+    tell(whatIsOpen() != nullptr ? "open" : "nothing open");
+}
+
+void tellWhatIsLeft()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const bool isSomeVisible =
+        std::any_of(windows.begin(), windows.end(), [](const QWidget *left) { return left->isVisible(); });
+    tell(isSomeVisible || whatIsOpen() != nullptr ? "something left" : "nothing left");
+}
+
+// Of what is open and all its parts, but for those that have a style of their own.
+bool hasStyle(const QStyle *style)
+{
+    QWidget *open = whatIsOpen();
+    if (open == nullptr || open->style() != style)
+        return false;
+    const QList<QWidget *> parts = open->findChildren<QWidget *>();
+    return std::all_of(parts.begin(), parts.end(), [style](const QWidget *part) {
+        return part->style() == style || part->testAttribute(Qt::WA_SetStyle);
+    });
+}
+
+void tellLook(bool isNew)
+{
+    tell(isNew ? "new look" : "old look");
+}
+
+// Once what was changed has been painted.
+template <typename Tell>
+void quitSoon(Tell tellFirst)
+{
+    const auto end = [tellFirst] {
+        tellFirst();
+        QCoreApplication::quit();
+    };
+    QTimer::singleShot(100, application, end);
+}
+
+void tellStyleAndQuit(const QStyle *style)
+{
+    quitSoon([style] { tellLook(hasStyle(style)); });
 }
 
 void replaceStyle()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    quitSoon();
+    QStyle *fusion = QStyleFactory::create(QStringLiteral("Fusion"));
+    QApplication::setStyle(fusion);
+    tellStyleAndQuit(fusion);
 }
 
 void replaceStyleByBlue()
 {
-    CC4StyleFactory::getStyle(CC4StyleFactory::BlueScrollStyle);
-    quitSoon();
+    tellStyleAndQuit(CC4StyleFactory::getStyle(CC4StyleFactory::BlueScrollStyle));
+}
+
+constexpr int largeFont = 20; // points
+
+bool hasNewSheetFontAndDirection()
+{
+    const QWidget *open = whatIsOpen();
+    if (open == nullptr || !open->isRightToLeft() || open->palette().color(open->foregroundRole()) != Qt::red)
+        return false;
+    // All others have fonts of the house.
+    return qobject_cast<const CMessageBoxEx *>(open) == nullptr || open->font().pointSize() == largeFont;
 }
 
 void changeAllElse()
 {
     application->setStyleSheet(QStringLiteral("* { color: red }"));
-    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 20));
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), largeFont));
     QApplication::setLayoutDirection(Qt::RightToLeft);
-    quitSoon();
+    quitSoon([] { tellLook(hasNewSheetFontAndDirection()); });
 }
 
 void deleteWindow()
 {
+    QApplication::setQuitOnLastWindowClosed(false); // before all that went along has been told of
     delete window;
-    quitSoon();
+    quitSoon(tellWhatIsLeft);
+}
+
+// Of a message box: the corner behind its shadow, and the shadow.
+void tellShadow()
+{
+    const QImage box = whatIsOpen()->grab().toImage();
+    const QPoint corner = box.rect().bottomRight();
+    for (const QPoint &point : {corner, corner - shadowFromCorner})
+        QTextStream(stdout) << box.pixelColor(point).name(QColor::HexArgb) << '\n';
+    QCoreApplication::quit();
 }
 
 const QMap<QString, std::function<void()>> ends{
@@ -153,6 +230,7 @@ const QMap<QString, std::function<void()>> ends{
     {QStringLiteral("blue-style"), replaceStyleByBlue},
     {QStringLiteral("look"), changeAllElse},
     {QStringLiteral("window"), deleteWindow},
+    {QStringLiteral("shadow"), tellShadow},
 };
 
 } // namespace
@@ -168,12 +246,13 @@ int main(int argc, char *argv[])
     makeWindow();
     QTimer::singleShot(50, application, open);
     QTimer::singleShot(200, application, [&] {
-        QTextStream(stdout) << (isSomethingOpen() ? "open" : "nothing open") << '\n';
+        tellIfOpen();
         end();
     });
     const int status = QApplication::exec();
-    // With the window and all that is open in it: no widget of Qt may be destroyed without an application.
+    // Takes the windows off the screen. The window and what is open in it stay as objects and are left alone: no widget
+    // of Qt may be destroyed without an application.
     delete application;
-    QTextStream(stdout) << "ended\n";
+    tell("ended");
     return status;
 }

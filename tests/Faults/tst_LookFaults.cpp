@@ -2,9 +2,13 @@
 // lacks what is not there, and the application goes on, in bounded time and memory.
 #include "helpers/HouseTest.h"
 
+#include "ButtonEx/ButtonEx.h"
+#include "CC4Styles/CC4StyleFactory.h"
 #include "UiGraphics/Deployment.h"
 
 #include <QBuffer>
+#include <QPixmapCache>
+#include <QRegularExpression>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -55,6 +59,61 @@ QByteArray png(int side)
     return file;
 }
 
+QStringList artwork()
+{
+    return QDir(QStringLiteral(ARTWORK)).entryList({QStringLiteral("*.png")});
+}
+
+/** The pages that the gallery paints there; how it failed, where it does, also after the last page. */
+QStringList paintedPages(const Deployment &deployment)
+{
+    const QString shots = deployment.home() + QStringLiteral("/shots");
+    QStringList pages = deployment.ask({QStringLiteral("--shots"), shots}, QStringLiteral(GALLERY));
+    for (QString &page : pages)
+        if (!QImage(page).isNull())
+            page = QFileInfo(page).fileName();
+    return pages;
+}
+
+QStringList soundPages()
+{
+    Deployment deployment;
+    deployment.set(QStringLiteral("ZEL_LOG"), QStringLiteral("warning"));
+    deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral(ARTWORK));
+    return paintedPages(deployment);
+}
+
+/** The elements that load bitmaps, each in the rectangle of a larger picture. */
+QMap<QString, QImage> paintedElements(const QRect &place)
+{
+    const auto painted = [](const auto &draw) {
+        return Picture::of(QSize(500, 500), [&draw](QPainter *painter) { draw(QApplication::style(), painter); });
+    };
+    const auto button = optionFor<QStyleOptionButton>(place, QStyle::State_Enabled | QStyle::State_Sunken);
+    const auto primitive = [&](QStyle::PrimitiveElement element, const QWidget *widget = nullptr) {
+        return painted(
+            [&](QStyle *style, QPainter *painter) { style->drawPrimitive(element, &button, painter, widget); });
+    };
+    const auto box = optionFor<QStyleOptionComboBox>(place);
+    auto bar = optionFor<QStyleOptionSlider>(place, QStyle::State_Enabled | QStyle::State_Horizontal);
+    bar.rect.moveTo(0, 0); // where the parts of a bar always are
+    bar.maximum = bar.pageStep = 10;
+    bar.subControls = QStyle::SC_All;
+    const auto drawBox = [&](QStyle *style, QPainter *painter) {
+        style->drawComplexControl(QStyle::CC_ComboBox, &box, painter);
+    };
+    const auto drawBar = [&](QStyle *style, QPainter *painter) {
+        painter->translate(place.topLeft());
+        style->drawComplexControl(QStyle::CC_ScrollBar, &bar, painter);
+    };
+    const CButtonEx face;
+    return {{QStringLiteral("check box"), primitive(QStyle::PE_IndicatorCheckBox)},
+            {QStringLiteral("radio button"), primitive(QStyle::PE_IndicatorRadioButton)},
+            {QStringLiteral("button"), primitive(QStyle::PE_PanelButtonCommand, &face)},
+            {QStringLiteral("drop-down"), painted(drawBox)},
+            {QStringLiteral("scroll bar"), painted(drawBar)}};
+}
+
 bool isBounded()
 {
     rusage usage{};
@@ -72,6 +131,7 @@ class tst_LookFaults : public HouseTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void xml_data();
     void xml();
     void directory_data();
@@ -83,7 +143,17 @@ private Q_SLOTS:
     void language();
     void everyPageIsPainted_data();
     void everyPageIsPainted();
+    void bitmapsStayInside_data();
+    void bitmapsStayInside();
+
+private:
+    const Deployment m_ownLook; // of this process
 };
+
+void tst_LookFaults::initTestCase()
+{
+    qputenv("ZEL_GRAPHICS_DIR", QFile::encodeName(m_ownLook.graphics()));
+}
 
 void tst_LookFaults::xml_data()
 {
@@ -98,8 +168,9 @@ void tst_LookFaults::xml_data()
     row("an entity, over and over", filled("<!DOCTYPE a [<!ENTITY l '" + letters + "'>]><a>", "&l;", override + "</a>"),
         overridden);
     row("a longer one", "<!DOCTYPE a [<!ENTITY l '" + letters.repeated(8) + "'>]><a>&l;" + override + "</a>", builtIn);
-    row("100 megabytes", "<a>" + override, builtIn, 100 * megabyte);
+    row("100 megabytes of nothing", "<a>" + override, builtIn, 100 * megabyte);
     row("just not too large", filled("<a>", " ", override + "</a>"), overridden);
+    row("too large by a byte", filled("<a>", " ", override + "</a>", megabyte + 1), builtIn); // and well-formed
     row("deep", filled("", "<a>", ""), builtIn);
     row("many elements", filled("<a>", "<Color Name='a'/>", override + "</a>"), overridden);
     row("many without a name", filled("<a>", "<Color/>", override + "</a>"), overridden);
@@ -179,18 +250,22 @@ void tst_LookFaults::pipes()
 void tst_LookFaults::language_data()
 {
     QTest::addColumn<QString>("tag");
-    QTest::newRow("10,000 letters") << QString(10000, QLatin1Char('x'));
-    QTest::newRow("a separator") << QStringLiteral("de/AT");
-    QTest::newRow("only separators") << QStringLiteral("//");
-    QTest::newRow("out of the directory") << QStringLiteral("../../../..");
-    QTest::newRow("two lines") << QStringLiteral("de\nAT");
-    QTest::newRow("a placeholder") << QStringLiteral("%1%n");
+    QTest::addColumn<QString>("recorded");
+    const QString letters(10000, QLatin1Char('x'));
+    QTest::newRow("10,000 letters") << letters << letters;
+    QTest::newRow("a separator") << QStringLiteral("de/AT") << QStringLiteral("de/AT");
+    QTest::newRow("only separators") << QStringLiteral("//") << QStringLiteral("//");
+    QTest::newRow("out of the directory, a locale by its dots")
+        << QStringLiteral("../../../..") << QStringLiteral("en");
+    QTest::newRow("two lines") << QStringLiteral("de\nAT") << QStringLiteral("de AT");
+    QTest::newRow("a placeholder") << QStringLiteral("%1%n") << QStringLiteral("%1%n");
 }
 
 // Such a tag has no files of its own; it takes the common ones and the fonts of all other languages.
 void tst_LookFaults::language()
 {
     QFETCH(QString, tag);
+    QFETCH(QString, recorded);
     Deployment deployment;
     deployment.set(QStringLiteral("ZEL_LANGUAGE"), tag);
     deployment.addBitmap(QStringLiteral("Close.png"), QSize(3, 4));
@@ -198,6 +273,8 @@ void tst_LookFaults::language()
     const QStringList font{QStringLiteral("font"), QStringLiteral("14"), QStringLiteral("-1"), QStringLiteral("0")};
     QCOMPARE(deployment.ask(color + pixmap + font),
              QStringList({overridden, QStringLiteral("3x4@1"), QStringLiteral("Tahoma,14px,-1pt,normal,antialias")}));
+    const QString record = QStringLiteral(" 6 uigraphics [^\n]*: %1\n").arg(QRegularExpression::escape(recorded));
+    QVERIFY(deployment.log().contains(QRegularExpression(record)));
 }
 
 void tst_LookFaults::everyPageIsPainted_data()
@@ -214,19 +291,44 @@ void tst_LookFaults::everyPageIsPainted()
     QFETCH(QByteArray, bitmap);
     if (QByteArray(GALLERY).isEmpty())
         QSKIP("built without the gallery");
+    static const QStringList pages = soundPages();
+    QVERIFY2(pages.size() >= 20, qPrintable(pages.join(QLatin1Char('\n'))));
     Deployment deployment;
     deployment.set(QStringLiteral("ZEL_LOG"), QStringLiteral("warning"));
     if (bitmap.isEmpty())
         deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral("/nowhere"));
-    for (const QString &name : QDir(QStringLiteral(ARTWORK)).entryList({QStringLiteral("*.png")}))
+    for (const QString &name : artwork())
         deployment.write(name, bitmap);
-    const QString shots = deployment.home() + QStringLiteral("/shots");
-    const QStringList said = deployment.ask({QStringLiteral("--shots"), shots}, QStringLiteral(GALLERY));
-    const QStringList pages = QDir(shots).entryList({QStringLiteral("*.png")});
-    QVERIFY2(pages.size() >= 20, qPrintable(said.join(QLatin1Char('\n'))));
-    for (const QString &page : pages)
-        QVERIFY(!QImage(shots + QLatin1Char('/') + page).isNull());
+    QCOMPARE(paintedPages(deployment), pages);
     QVERIFY(isBounded());
+}
+
+void tst_LookFaults::bitmapsStayInside_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("a pixel") << QSize(1, 1);
+    QTest::newRow("wide") << QSize(300, 3);
+    QTest::newRow("high") << QSize(3, 300);
+    QTest::newRow("large") << QSize(300, 300);
+}
+
+// Whoever has the style paint elements side by side must find each within its own rectangle.
+void tst_LookFaults::bitmapsStayInside()
+{
+    QFETCH(QSize, size);
+    for (const QString &name : artwork())
+        m_ownLook.addBitmap(name, size);
+    QPixmapCache::clear();
+    CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style);
+    const QRect place(100, 110, 90, 24);
+    const QMap<QString, QImage> elements = paintedElements(place);
+    for (auto element = elements.begin(); element != elements.end(); ++element) {
+        QVERIFY2(!Picture::paintsOutside(element.value(), place), qPrintable(element.key()));
+        // Scaled to the height of a button, a narrow slice has no width left.
+        const bool isSeen = element.key() != QLatin1String("button") || size.width() >= size.height();
+        QVERIFY2(Picture::boundsOf(element.value(), Qt::red).isNull() != isSeen, qPrintable(element.key()));
+    }
+    CC4StyleFactory::releaseStyle(CC4StyleFactory::CC4Style);
 }
 
 HOUSE_TEST_MAIN(tst_LookFaults)

@@ -28,7 +28,7 @@ public:
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
+        QCOMPARE(file.write(content), qint64(content.size()));
     }
 
     void addBitmap(const QString &name, const QSize &size) const
@@ -58,7 +58,9 @@ public:
         QProcess process;
         process.setProcessEnvironment(environment);
         process.start(probe, questions);
-        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        constexpr int patience = 100000; // milliseconds; under the sanitizers the gallery takes its time
+        if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit ||
+            process.exitCode() != 0)
             return {QStringLiteral("probe failed: ") + QString::fromLocal8Bit(process.readAllStandardError())};
         QStringList answers;
         for (const QByteArray &line : process.readAllStandardOutput().trimmed().split('\n'))

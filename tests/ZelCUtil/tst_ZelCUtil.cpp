@@ -479,6 +479,9 @@ void TestZelCUtil::unwritableLog_data()
                                          << "Not a directory";
     QTest::newRow("device") << file("/dev/full") << Files{} << "/dev/full"
                             << "it is not a regular file";
+    // Root may write into a folder without write permission, but nobody into this one.
+    QTest::newRow("folder that takes no files") << file("/proc/x.log") << Files{} << "/proc/x.log"
+                                                << "No such file or directory";
     const QString longName = "/" + QString(300, 'n');
     QTest::newRow("name too long") << Variables{{"ZEL_LOG_FILE", "%" + longName}} << Files{} << "%" + longName
                                    << "File name too long";

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QPixmapCache>
 #include <QPointer>
 #include <QThread>
 #include <QTimer>
@@ -124,6 +125,7 @@ void FuzzApplication::restore()
     while (QWidget *window = windowOfNobody())
         delete window;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QPixmapCache::clear();
     restoreStyle();
     QApplication::setLayoutDirection(Qt::LeftToRight);
     if (QApplication::font() != applicationFont)

@@ -12,6 +12,7 @@
 #include "UiGraphicsBitmaps.h"
 #include "fuzz/FuzzApplication.h"
 #include "fuzz/FuzzBytes.h"
+#include "fuzz/Require.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -21,7 +22,6 @@
 #include <QImage>
 #include <QMenu>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -51,8 +51,8 @@ void linkBitmaps()
     int number = 0;
     for (const LookBitmap &bitmap : lookBitmaps) {
         const QString path = dir.filePath(QString::fromUtf16(bitmap.name));
-        QFile::link(filePath(number), path);
-        QFile::link(filePath(1 - number), doubleResolutionPath(path));
+        FUZZ_REQUIRE(QFile::link(filePath(number), path));
+        FUZZ_REQUIRE(QFile::link(filePath(1 - number), doubleResolutionPath(path)));
         number = 1 - number;
     }
 }
@@ -61,11 +61,13 @@ void writeFile(int number, const QByteArray &bytes)
 {
     QFile file(filePath(number));
     if (bytes.isEmpty()) {
-        file.remove();
+        FUZZ_REQUIRE(file.remove() || !file.exists());
         return;
     }
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
+    // On a full disk every input would seem to do no harm.
+    FUZZ_REQUIRE(file.open(QIODevice::WriteOnly));
+    FUZZ_REQUIRE(file.write(bytes) == bytes.size());
+    FUZZ_REQUIRE(file.flush());
 }
 
 void paint(QWidget &widget, const QSize &size)
@@ -190,7 +192,6 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, std::size_t size)
     writeFile(0, files.left(lengthOfFirst));
     writeFile(1, files.mid(lengthOfFirst));
     paintAll(parts);
-    QPixmapCache::clear();
     FuzzApplication::restore();
     return 0;
 }
