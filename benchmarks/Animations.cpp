@@ -2,6 +2,7 @@
 // size that repaints a pixmap at the same rate, and beside what Qt has for the purpose under Fusion.
 //
 // The contenders take turns, a slice each, so that whatever else the machine does meets all of them.
+#include "Clocks.h"
 #include "Report.h"
 
 #include <ZelCmnCtrl03/CButtonEx>
@@ -23,8 +24,6 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
-
-#include <sys/resource.h>
 
 namespace {
 
@@ -205,16 +204,6 @@ void runFor(double seconds)
     loop.exec();
 }
 
-double cpuMilliseconds()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    const auto milliseconds = [](const timeval &time) {
-        return static_cast<double>(time.tv_sec) * 1000.0 + static_cast<double>(time.tv_usec) / 1000.0;
-    };
-    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
-}
-
 // Each turn with new widgets: the house's ones run from their construction on, shown or not.
 double turnOf(const MakeStage &make)
 {
@@ -222,11 +211,11 @@ double turnOf(const MakeStage &make)
     stage->show();
     stage->activateWindow();
     runFor(warmUp / 1000.0);
-    const double cpuBefore = cpuMilliseconds();
+    const double before = processNanoseconds();
     QElapsedTimer clock;
     clock.start();
     runFor(sliceSeconds);
-    return (cpuMilliseconds() - cpuBefore) * 1e9 / static_cast<double>(clock.nsecsElapsed());
+    return (processNanoseconds() - before) * 1e3 / static_cast<double>(clock.nsecsElapsed());
 }
 
 /** An animation of ours, and the others; the second one moves a plain picture. */

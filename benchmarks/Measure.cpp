@@ -1,20 +1,20 @@
 #include "Measure.h"
 
+#include "Clocks.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <random>
 
-#include <ctime>
-
 namespace {
 
 double nanosecondsOf(const std::function<void()> &run, int count)
 {
-    const double before = threadNanoseconds();
+    const double before = processNanoseconds();
     for (int i = 0; i < count; ++i)
         run();
-    return threadNanoseconds() - before;
+    return processNanoseconds() - before;
 }
 
 // Doubles the count until a slice is long enough to be measured; that warms everything up, too.
@@ -31,13 +31,6 @@ int runsPerSlice(const std::function<void()> &run, double sliceSeconds)
 }
 
 } // namespace
-
-double threadNanoseconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
-}
 
 void takeTurns(Comparison &comparison, int rounds, double sliceSeconds)
 {

@@ -39,9 +39,6 @@ struct Comparison
     int thingsPerRun = 1; // where a single one is too short to be measured
 };
 
-/** CPU time of this thread, in nanoseconds. */
-double threadNanoseconds();
-
 /**
  * Fills the samples with nanoseconds: `rounds` turns of each contender, each of so many runs that it takes about
  * `sliceSeconds`.

@@ -1,4 +1,5 @@
 // The look registry beside the least that its lookups can take, and a log scope that is switched off.
+#include "Clocks.h"
 #include "Groups.h"
 
 #include <UiGraphics.h>
@@ -90,9 +91,9 @@ Comparison logScope()
 double registryStartNanoseconds()
 {
     keep(QFontMetrics(QFont()).height()); // every application has Qt's fonts
-    const double before = threadNanoseconds();
+    const double before = processNanoseconds();
     CUIGraphics::initializeUIG();
-    return threadNanoseconds() - before;
+    return processNanoseconds() - before;
 }
 
 std::vector<Comparison> registry()
