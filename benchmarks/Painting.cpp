@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <array>
 #include <map>
 #include <memory>
 
@@ -88,9 +89,17 @@ Contender bare(const QString &name, const QSize &size, std::function<void(QPaint
     return {name, [widget, canvas] { canvas->paint(*widget); }, {}};
 }
 
+// The least that a key with a size in it takes: one string, in which the numbers stand as they are.
+QString cacheKey(const QSize &size)
+{
+    const std::array<QChar, 4> units = {QLatin1Char('b'), QLatin1Char(':'), QChar(static_cast<ushort>(size.width())),
+                                        QChar(static_cast<ushort>(size.height()))};
+    return QString(units.data(), static_cast<int>(units.size()));
+}
+
 QPixmap pictureFromCache(const QSize &size)
 {
-    const QString key = QStringLiteral("bench-%1x%2").arg(size.width()).arg(size.height());
+    const QString key = cacheKey(size);
     QPixmap picture;
     if (QPixmapCache::find(key, &picture))
         return picture;
