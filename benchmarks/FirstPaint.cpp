@@ -43,8 +43,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style);
 #else
-    if (argc > 1)
-        QApplication::setStyle(QString::fromLocal8Bit(argv[1]));
+    if (argc > 1 && QApplication::setStyle(QString::fromLocal8Bit(argv[1])) == nullptr)
+        return 1; // Qt would take another one
     QApplication application(argc, argv);
 #endif
     const std::unique_ptr<QWidget> form = makeForm();

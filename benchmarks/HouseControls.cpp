@@ -39,17 +39,21 @@ Contender paintingOf(const QString &name, const std::shared_ptr<QWidget> &widget
 }
 
 /** Both are prepared by the same function, so that they show the same. */
-template <typename Ours, typename Peer, typename Prepare>
-Comparison paintingBeside(const QSize &size, Prepare prepare)
+template <typename Ours, typename Peer, typename Arrange>
+Comparison paintingBeside(const QSize &size, Arrange arrange)
 {
-    const auto ours = std::make_shared<Ours>();
-    const auto peer = std::make_shared<Peer>();
-    prepare(*ours);
-    prepare(*peer);
-    dress(*peer, fusion(), size);
     const QString names = QLatin1String(Ours::staticMetaObject.className()) + QStringLiteral(", ") +
                           QLatin1String(Peer::staticMetaObject.className());
-    return {group, names, nanoseconds, {paintingOf(ourName, ours, size), paintingOf(peerName, peer, size)}, {}};
+    Comparison comparison{group, names, nanoseconds, {}, {}};
+    comparison.makeContenders = [size, arrange] {
+        const auto ours = std::make_shared<Ours>();
+        const auto peer = std::make_shared<Peer>();
+        arrange(*ours);
+        arrange(*peer);
+        dress(*peer, fusion(), size);
+        return std::vector<Contender>{paintingOf(ourName, ours, size), paintingOf(peerName, peer, size)};
+    };
+    return comparison;
 }
 
 /** Closes a dialog after its first painting. */

@@ -48,10 +48,15 @@ Comparison paintingUnderEachStyle(const WidgetKind &kind, const QString &group, 
     Comparison comparison{group, kind.name, nanoseconds, {}, {}};
     if (limit > 0)
         comparison.promise = {Promise::Ratio, limit, {}};
-    for (const QString &style : contendingStyles())
-        comparison.contenders.push_back(painting(kind, style, isCold));
+    const std::vector<QString> styles = contendingStyles();
+    comparison.makeContenders = [&kind, isCold, styles] {
+        std::vector<Contender> contenders;
+        for (const QString &style : styles)
+            contenders.push_back(painting(kind, style, isCold));
+        return contenders;
+    };
     const bool isForm = kind.make == makeForm;
-    for (std::size_t i = 2; isForm && !isCold && i < comparison.contenders.size(); ++i)
+    for (std::size_t i = 2; isForm && !isCold && i < styles.size(); ++i)
         comparison.promise.ahead.push_back(i);
     return comparison;
 }
@@ -109,6 +114,25 @@ QPixmap pictureFromCache(const QSize &size)
     return picture;
 }
 
+std::vector<Contender> leastPainters(const WidgetKind &kind)
+{
+    const QSize size = kind.size;
+    const QPixmap picture = pictureFromCache(size);
+    const QString text = QStringLiteral("Print");
+    const QRect rect(QPoint(0, 0), size);
+    return {
+        painting(kind, house, false),
+        bare(QStringLiteral("a pixmap"), size, [picture](QPainter &painter) { painter.drawPixmap(0, 0, picture); }),
+        bare(QStringLiteral("from the cache"), size,
+             [size](QPainter &painter) { painter.drawPixmap(0, 0, pictureFromCache(size)); }),
+        bare(QStringLiteral("and a text"), size,
+             [size, rect, text](QPainter &painter) {
+                 painter.drawPixmap(0, 0, pictureFromCache(size));
+                 painter.drawText(rect, Qt::AlignCenter | Qt::TextShowMnemonic, text);
+             }),
+    };
+}
+
 } // namespace
 
 std::vector<QString> contendingStyles()
@@ -133,21 +157,9 @@ std::vector<Comparison> coldPainting()
 std::vector<Comparison> leastPainting()
 {
     const WidgetKind &kind = widgetKinds().front();
-    const QSize size = kind.size;
-    const QPixmap picture = pictureFromCache(size);
-    const QString text = QStringLiteral("Print");
-    const QRect rect(QPoint(0, 0), size);
     Comparison comparison{QStringLiteral("limits of painting"), kind.name, nanoseconds, {}, {}};
-    comparison.contenders = {
-        painting(kind, house, false),
-        bare(QStringLiteral("a pixmap"), size, [picture](QPainter &painter) { painter.drawPixmap(0, 0, picture); }),
-        bare(QStringLiteral("from the cache"), size,
-             [size](QPainter &painter) { painter.drawPixmap(0, 0, pictureFromCache(size)); }),
-        bare(QStringLiteral("and a text"), size,
-             [size, rect, text](QPainter &painter) {
-                 painter.drawPixmap(0, 0, pictureFromCache(size));
-                 painter.drawText(rect, Qt::AlignCenter | Qt::TextShowMnemonic, text);
-             }),
+    comparison.makeContenders = [&kind] {
+        return leastPainters(kind);
     };
     return {comparison};
 }
