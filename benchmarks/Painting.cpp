@@ -51,6 +51,7 @@ Comparison paintingUnderEachStyle(const WidgetKind &kind, const QString &group, 
     const std::vector<QString> styles = contendingStyles();
     comparison.makeContenders = [&kind, isCold, styles] {
         std::vector<Contender> contenders;
+        contenders.reserve(styles.size());
         for (const QString &style : styles)
             contenders.push_back(painting(kind, style, isCold));
         return contenders;
