@@ -1,5 +1,6 @@
 // A process that shows a form under one style, and says what it took: CPU time from its start to the first painting in
 // nanoseconds, and its memory then in KiB. Built with the house style and, for the others, without our libraries.
+#include "Clocks.h"
 #include "WidgetKinds.h"
 
 #ifdef ZEL_BENCH_HOUSE
@@ -7,33 +8,14 @@
 #endif
 
 #include <QApplication>
-#include <QFile>
 #include <QPaintEvent>
 #include <QTextStream>
 
 #include <cstdlib>
 
-#include <ctime>
-#include <unistd.h>
-
 namespace {
 
-double processNanoseconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
-}
-
-qint64 residentKibibytes()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE) / 1024;
-}
-
-/** Tells after the first painting of the last child, and ends the process without tidying up. */
+/** Tells when the first painting of the form, with all that is in it, is over, and ends without tidying up. */
 class Stopwatch : public QObject
 {
 public:
@@ -61,8 +43,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style);
 #else
-    if (argc > 1)
-        QApplication::setStyle(QString::fromLocal8Bit(argv[1]));
+    if (argc > 1 && QApplication::setStyle(QString::fromLocal8Bit(argv[1])) == nullptr)
+        return 1; // Qt would take another one
     QApplication application(argc, argv);
 #endif
     const std::unique_ptr<QWidget> form = makeForm();

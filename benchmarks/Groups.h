@@ -28,7 +28,7 @@ std::vector<Comparison> houseControls();
 std::vector<Comparison> registry();
 
 /** Processes that show a form: CPU time to the first painting, and memory then. And how long the registry starts. */
-std::vector<Comparison> wholeProcesses(int rounds);
+std::vector<Comparison> wholeProcesses();
 
 /** The argument with which zel_bench only starts the registry, where Qt's fonts are ready, and tells its time. */
 inline const QString registryStartOption = QStringLiteral("--registry-start");

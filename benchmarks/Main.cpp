@@ -1,51 +1,68 @@
 // zel_bench: our painting, our controls and the look registry beside their peers.
+#include "CommandLine.h"
 #include "Groups.h"
-#include "Report.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QTextStream>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int notKept = 1;
-constexpr int wrongArguments = 2;
 constexpr double sliceSeconds = 0.002;
 constexpr int processRoundsPerRound = 3; // so many rounds of the others for one of whole processes
 
 std::vector<Comparison> everything()
 {
     std::vector<Comparison> all;
-    for (auto group : {warmPainting, coldPainting, leastPainting, houseControls, registry}) {
+    for (auto group : {warmPainting, coldPainting, leastPainting, houseControls, registry, wholeProcesses}) {
         std::vector<Comparison> comparisons = group();
         std::move(comparisons.begin(), comparisons.end(), std::back_inserter(all));
     }
     return all;
 }
 
-void keepWanted(std::vector<Comparison> &comparisons, const QString &wanted)
+bool isOfProcesses(const Comparison &comparison)
 {
-    const auto isUnwanted = [&wanted](const Comparison &comparison) {
-        const QString name = comparison.group + QStringLiteral(": ") + comparison.name;
-        return !name.contains(wanted, Qt::CaseInsensitive);
-    };
-    comparisons.erase(std::remove_if(comparisons.begin(), comparisons.end(), isUnwanted), comparisons.end());
+    return !comparison.contenders.empty() && comparison.contenders.front().takeSample;
+}
+
+void measure(std::vector<Comparison> &comparisons, int rounds)
+{
+    for (Comparison &comparison : comparisons) {
+        const int fewer = std::max(1, rounds / processRoundsPerRound);
+        takeTurns(comparison, isOfProcesses(comparison) ? fewer : rounds, sliceSeconds);
+    }
+}
+
+/** What the contenders of that name do. */
+std::vector<std::function<void()>> runsOf(std::vector<Comparison> &comparisons, const QString &name)
+{
+    std::vector<std::function<void()>> runs;
+    for (Comparison &comparison : comparisons) {
+        prepare(comparison);
+        for (const Contender &contender : comparison.contenders)
+            if (contender.name == name && contender.run)
+                runs.push_back(contender.run);
+    }
+    return runs;
 }
 
 /** For a profiler, which finds it by its name: one contender alone, so many times. */
-Q_NEVER_INLINE int runAlone(std::vector<Comparison> &comparisons, const QString &name, int count)
+Q_NEVER_INLINE void runAlone(const std::vector<std::function<void()>> &runs, int count)
 {
-    for (Comparison &comparison : comparisons) {
-        for (Contender &contender : comparison.contenders) {
-            if (contender.name != name)
-                continue;
-            for (int i = 0; i < count; ++i)
-                contender.run();
-        }
-    }
-    return 0;
+    for (const std::function<void()> &run : runs)
+        for (int i = 0; i < count; ++i)
+            run();
+}
+
+int profile(std::vector<Comparison> &comparisons, const QString &name, int count)
+{
+    const std::vector<std::function<void()>> runs = runsOf(comparisons, name);
+    if (runs.empty())
+        return refuse(QStringLiteral("--alone: nothing of what is chosen has a contender '%1'").arg(name));
+    runAlone(runs, count);
+    return AllKept;
 }
 
 } // namespace
@@ -64,37 +81,24 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Paints widgets and asks the look registry, each beside its peers. Ends with 1 when a promise is not kept."));
-    parser.addHelpOption();
-    const QCommandLineOption onlyOption(QStringLiteral("only"),
-                                        QStringLiteral("What has this in its name, such as 'painting: form'."),
-                                        QStringLiteral("text"));
+    addCommonOptions(parser);
     const QCommandLineOption roundsOption(QStringLiteral("rounds"), QStringLiteral("Turns of each contender."),
                                           QStringLiteral("number"), QStringLiteral("61"));
-    const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("Print JSON in place of the table."));
     const QCommandLineOption aloneOption(QStringLiteral("alone"),
                                          QStringLiteral("For a profiler: this contender only, --rounds times."),
                                          QStringLiteral("contender"));
-    parser.addOptions({onlyOption, roundsOption, jsonOption, aloneOption});
+    parser.addOptions({roundsOption, aloneOption});
     parser.process(application);
     bool isNumber = false;
     const int rounds = parser.value(roundsOption).toInt(&isNumber);
-    if (!isNumber || rounds < 1) {
-        QTextStream(stderr) << QStringLiteral("--rounds wants a whole number from 1 up\n");
-        return wrongArguments;
-    }
+    if (!isNumber || rounds < 1)
+        return refuse(QStringLiteral("--rounds wants a whole number from 1 up"));
 
     std::vector<Comparison> comparisons = everything();
-    keepWanted(comparisons, parser.value(onlyOption));
+    if (const std::optional<int> status = choose(parser, comparisons))
+        return *status;
     if (parser.isSet(aloneOption))
-        return runAlone(comparisons, parser.value(aloneOption), rounds);
-    for (Comparison &comparison : comparisons)
-        takeTurns(comparison, rounds, sliceSeconds);
-    std::vector<Comparison> processes = wholeProcesses(std::max(1, rounds / processRoundsPerRound));
-    keepWanted(processes, parser.value(onlyOption));
-    std::move(processes.begin(), processes.end(), std::back_inserter(comparisons));
-    if (parser.isSet(jsonOption))
-        printJson(comparisons, rounds);
-    else
-        printTable(comparisons);
-    return std::all_of(comparisons.begin(), comparisons.end(), isKept) ? 0 : notKept;
+        return profile(comparisons, parser.value(aloneOption), rounds);
+    measure(comparisons, rounds);
+    return report(parser, comparisons, rounds);
 }

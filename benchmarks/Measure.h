@@ -11,7 +11,8 @@ struct Contender
 {
     QString name;
     std::function<void()> run;
-    std::vector<double> samples; // what it took, one for each round
+    std::vector<double> samples;                  // what it took, one for each round; NaN where it failed
+    std::function<double()> takeSample = nullptr; // in place of `run`, where that is not the time of this process
 };
 
 /** What is promised of the first contender. */
@@ -36,18 +37,20 @@ struct Comparison
     QString unit; // of the samples
     std::vector<Contender> contenders;
     Promise promise;
-    int thingsPerRun = 1; // where a single one is too short to be measured
+    int thingsPerRun = 1;                                             // where a single one is too short to be measured
+    std::function<std::vector<Contender>()> makeContenders = nullptr; // where they are not for nothing
 };
 
-/** CPU time of this thread, in nanoseconds. */
-double threadNanoseconds();
+/** Makes the contenders where they are not made yet. */
+void prepare(Comparison &comparison);
 
 /**
- * Fills the samples with nanoseconds: `rounds` turns of each contender, each of so many runs that it takes about
- * `sliceSeconds`.
+ * Fills the samples: `rounds` turns of each contender. With nanoseconds, each of so many runs that it takes about
+ * `sliceSeconds`; or with what the contender takes by itself.
  */
 void takeTurns(Comparison &comparison, int rounds, double sliceSeconds);
 
+/** NaN where there is none, or one of them is NaN. */
 double median(std::vector<double> values);
 
 /** The median of the ratios within each round. */
@@ -59,4 +62,14 @@ double ratioTo(const Comparison &comparison, std::size_t contender);
 /** The median of the first contender less that of another one. */
 double differenceTo(const Comparison &comparison, std::size_t contender);
 
+/** Whether no sample of any contender is missing. */
+bool isMeasured(const Comparison &comparison);
+
+/** The limit to the second contender. A figure that is missing keeps no promise. */
+bool isLimitKept(const Comparison &comparison);
+
+/** Of all contenders that the promise names. */
+bool isAhead(const Comparison &comparison);
+
+/** All that is promised. */
 bool isKept(const Comparison &comparison);

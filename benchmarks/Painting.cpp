@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <array>
 #include <map>
 #include <memory>
 
@@ -47,10 +48,16 @@ Comparison paintingUnderEachStyle(const WidgetKind &kind, const QString &group, 
     Comparison comparison{group, kind.name, nanoseconds, {}, {}};
     if (limit > 0)
         comparison.promise = {Promise::Ratio, limit, {}};
-    for (const QString &style : contendingStyles())
-        comparison.contenders.push_back(painting(kind, style, isCold));
+    const std::vector<QString> styles = contendingStyles();
+    comparison.makeContenders = [&kind, isCold, styles] {
+        std::vector<Contender> contenders;
+        contenders.reserve(styles.size());
+        for (const QString &style : styles)
+            contenders.push_back(painting(kind, style, isCold));
+        return contenders;
+    };
     const bool isForm = kind.make == makeForm;
-    for (std::size_t i = 2; isForm && !isCold && i < comparison.contenders.size(); ++i)
+    for (std::size_t i = 2; isForm && !isCold && i < styles.size(); ++i)
         comparison.promise.ahead.push_back(i);
     return comparison;
 }
@@ -88,9 +95,17 @@ Contender bare(const QString &name, const QSize &size, std::function<void(QPaint
     return {name, [widget, canvas] { canvas->paint(*widget); }, {}};
 }
 
+// The least that a key with a size in it takes: one string, in which the numbers stand as they are.
+QString cacheKey(const QSize &size)
+{
+    const std::array<QChar, 4> units = {QLatin1Char('b'), QLatin1Char(':'), QChar(static_cast<ushort>(size.width())),
+                                        QChar(static_cast<ushort>(size.height()))};
+    return QString(units.data(), static_cast<int>(units.size()));
+}
+
 QPixmap pictureFromCache(const QSize &size)
 {
-    const QString key = QStringLiteral("bench-%1x%2").arg(size.width()).arg(size.height());
+    const QString key = cacheKey(size);
     QPixmap picture;
     if (QPixmapCache::find(key, &picture))
         return picture;
@@ -98,6 +113,25 @@ QPixmap pictureFromCache(const QSize &size)
     picture.fill(QColor(0, 0x65, 0xB1, 0x80));
     QPixmapCache::insert(key, picture);
     return picture;
+}
+
+std::vector<Contender> leastPainters(const WidgetKind &kind)
+{
+    const QSize size = kind.size;
+    const QPixmap picture = pictureFromCache(size);
+    const QString text = QStringLiteral("Print");
+    const QRect rect(QPoint(0, 0), size);
+    return {
+        painting(kind, house, false),
+        bare(QStringLiteral("a pixmap"), size, [picture](QPainter &painter) { painter.drawPixmap(0, 0, picture); }),
+        bare(QStringLiteral("from the cache"), size,
+             [size](QPainter &painter) { painter.drawPixmap(0, 0, pictureFromCache(size)); }),
+        bare(QStringLiteral("and a text"), size,
+             [size, rect, text](QPainter &painter) {
+                 painter.drawPixmap(0, 0, pictureFromCache(size));
+                 painter.drawText(rect, Qt::AlignCenter | Qt::TextShowMnemonic, text);
+             }),
+    };
 }
 
 } // namespace
@@ -124,21 +158,9 @@ std::vector<Comparison> coldPainting()
 std::vector<Comparison> leastPainting()
 {
     const WidgetKind &kind = widgetKinds().front();
-    const QSize size = kind.size;
-    const QPixmap picture = pictureFromCache(size);
-    const QString text = QStringLiteral("Print");
-    const QRect rect(QPoint(0, 0), size);
     Comparison comparison{QStringLiteral("limits of painting"), kind.name, nanoseconds, {}, {}};
-    comparison.contenders = {
-        painting(kind, house, false),
-        bare(QStringLiteral("a pixmap"), size, [picture](QPainter &painter) { painter.drawPixmap(0, 0, picture); }),
-        bare(QStringLiteral("from the cache"), size,
-             [size](QPainter &painter) { painter.drawPixmap(0, 0, pictureFromCache(size)); }),
-        bare(QStringLiteral("and a text"), size,
-             [size, rect, text](QPainter &painter) {
-                 painter.drawPixmap(0, 0, pictureFromCache(size));
-                 painter.drawText(rect, Qt::AlignCenter | Qt::TextShowMnemonic, text);
-             }),
+    comparison.makeContenders = [&kind] {
+        return leastPainters(kind);
     };
     return {comparison};
 }

@@ -3,65 +3,63 @@
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QTextStream>
+
+#include <cmath>
 
 namespace {
 
-struct Taken
-{
-    double nanoseconds = 0;
-    double kibibytes = 0;
-};
-
-// A process that fails gives zeros: the table shows them, and no ratio.
-Taken runOnce(const QString &program, const QString &argument)
+// The figure of that number among those that a process prints. NaN where it fails, so that no promise looks kept.
+double figureOf(const QString &program, const QString &argument, int number)
 {
     QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program, {argument});
-    process.waitForFinished();
-    const QList<QByteArray> figures = process.readAllStandardOutput().simplified().split(' ');
-    return {figures.value(0).toDouble(), figures.value(1).toDouble()};
+    const bool hasEnded = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
+    const QByteArray output = process.readAllStandardOutput().simplified();
+    const double figure = output.split(' ').value(number).toDouble();
+    if (hasEnded && process.exitCode() == 0 && figure > 0)
+        return figure;
+    const QString end = hasEnded ? QStringLiteral("exit status %1").arg(process.exitCode()) : process.errorString();
+    QTextStream(stderr) << QStringLiteral("%1 %2 failed: %3, and told \"%4\"\n")
+                               .arg(program, argument, end, QString::fromLocal8Bit(output));
+    return std::nan("");
 }
 
-Comparison registryStart(int rounds)
+Contender process(const QString &name, const QString &program, const QString &argument, int number)
 {
-    Comparison start{QStringLiteral("start-up"),
-                     QStringLiteral("the look registry"),
-                     nanoseconds,
-                     {{QStringLiteral("ours"), {}, {}}},
-                     {}};
-    for (int round = 0; round < rounds; ++round)
-        start.contenders.front().samples.push_back(
-            runOnce(QStringLiteral("zel_bench"), registryStartOption).nanoseconds);
-    return start;
+    return {name,
+            {},
+            {},
+            [=] {
+                return figureOf(program, argument, number);
+            }};
 }
 
-std::vector<Comparison> firstPaint(int rounds)
+/** A figure of a process that shows a form, under each style. */
+Comparison firstPaint(const QString &name, const QString &unit, int number, double limit)
 {
-    const QString group = QStringLiteral("a process with a form of 40");
-    Comparison time{
-        group, QStringLiteral("CPU time to first painting"), nanoseconds, {}, {Promise::Difference, 3e6, {}}};
-    Comparison memory{group, QStringLiteral("resident memory"), kibibytes, {}, {Promise::Difference, 3 * 1024, {}}};
-    const std::vector<QString> styles = contendingStyles();
-    for (const QString &style : styles) {
-        time.contenders.push_back({style, {}, {}});
-        memory.contenders.push_back({style, {}, {}});
+    Comparison comparison{QStringLiteral("a process with a form of 40"), name, unit, {}, {}};
+    comparison.promise = {Promise::Difference, limit, {}};
+    QString program = QStringLiteral("zel_first_paint_house");
+    for (const QString &style : contendingStyles()) {
+        comparison.contenders.push_back(process(style, program, style, number));
+        program = QStringLiteral("zel_first_paint_qt"); // all but the first
     }
-    for (int round = 0; round < rounds; ++round) {
-        for (std::size_t i = 0; i < styles.size(); ++i) {
-            const Taken taken = runOnce(
-                i == 0 ? QStringLiteral("zel_first_paint_house") : QStringLiteral("zel_first_paint_qt"), styles[i]);
-            time.contenders[i].samples.push_back(taken.nanoseconds);
-            memory.contenders[i].samples.push_back(taken.kibibytes);
-        }
-    }
-    return {time, memory};
+    return comparison;
 }
 
 } // namespace
 
-std::vector<Comparison> wholeProcesses(int rounds)
+std::vector<Comparison> wholeProcesses()
 {
-    std::vector<Comparison> all = firstPaint(rounds);
-    all.push_back(registryStart(rounds));
-    return all;
+    return {
+        firstPaint(QStringLiteral("CPU time to first painting"), nanoseconds, 0, 3e6),
+        firstPaint(QStringLiteral("resident memory"), kibibytes, 1, 3 * 1024),
+        {QStringLiteral("start-up"),
+         QStringLiteral("the look registry"),
+         nanoseconds,
+         {process(QStringLiteral("ours"), QStringLiteral("zel_bench"), registryStartOption, 0)},
+         {}},
+    };
 }

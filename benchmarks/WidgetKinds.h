@@ -23,7 +23,7 @@ struct WidgetKind
 
 const std::vector<WidgetKind> &widgetKinds();
 
-/** Forty widgets of ten kinds. */
+/** Forty widgets of nine kinds; two in ten are labels. */
 std::unique_ptr<QWidget> makeForm();
 
 /** Gives the style, its palette and a size to a widget and all that are in it, and has it ready to paint. */
