@@ -59,7 +59,7 @@ void drawCheckMark(QPainter *painter, const MenuItem &item)
     const QPixmap mark = UIGGetPixmap(name, PaintTools::deviceRatio(painter));
     const QRect rect = item.option->rect;
     const QRect place = item.visual(QRect(QPoint(rect.left() + 7, rect.center().y() - 6), checkPlace));
-    painter->drawPixmap(centredIn(place, zel::deviceIndependentSize(mark)).topLeft(), mark);
+    PaintTools::drawInside(painter, rect, centredIn(place, zel::deviceIndependentSize(mark)).topLeft(), mark);
 }
 
 // Whatever the size of the pixmap, it fills its place.

@@ -78,8 +78,30 @@ void CSliderEx::mousePressEvent(QMouseEvent *event)
     setSliderPosition(pixelPosToRangeValue(zel::localPosition(event) - clickOffset));
     if (self.isNull())
         return;
-    // Where the handle is under the pointer now, this begins an ordinary drag.
-    QSlider::mousePressEvent(event);
+    const QPoint point = zel::localPosition(event);
+    const QPoint grip = gripFor(point);
+    if (grip == point) {
+        QSlider::mousePressEvent(event);
+        return;
+    }
+    QMouseEvent onHandle(event->type(), grip, mapTo(window(), grip), mapToGlobal(grip), event->button(),
+                         event->buttons(), event->modifiers());
+    QSlider::mousePressEvent(&onHandle);
+    event->setAccepted(onHandle.isAccepted());
+}
+
+// Where the base is told of a press, once the handle has come to it: on the handle, so that a drag begins. The handle
+// may still lie beside the pointer, if it is lower than the slider or the values are further apart than it is long; the
+// base would take it a page further then. On an upright or inverted slider it has gone elsewhere, and all is left to
+// the base.
+QPoint CSliderEx::gripFor(const QPoint &point) const
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    if (option.orientation != Qt::Horizontal || option.upsideDown)
+        return point;
+    const QRect handle = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+    return {qBound(handle.left(), point.x(), handle.right()), qBound(handle.top(), point.y(), handle.bottom())};
 }
 
 void CSliderEx::mouseMoveEvent(QMouseEvent *event)

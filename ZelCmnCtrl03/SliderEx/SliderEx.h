@@ -79,6 +79,7 @@ private:
 
     QStyleOptionSlider getStyleOption() const;
     int pixelPosToRangeValue(QPoint point) const;
+    QPoint gripFor(const QPoint &point) const;
 
     QPixmap m_knobImage;
     QRect m_handleRect;

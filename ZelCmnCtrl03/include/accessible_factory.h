@@ -13,8 +13,8 @@ namespace zel {
  * control asked again.
  *
  * Qt asks for the interface, and keeps what it gets, with the first thing that there is to tell. In a disabled parent
- * that is in the midst of QWidget's constructor, where the control is a plain widget yet. Qt 6 asks again by itself when
- * the class has become another one, and loses the early interface when somebody else deletes one of the two.
+ * that is in the midst of QWidget's constructor, where the control is a plain widget yet. Qt 6 asks again by itself
+ * when the class has become another one, and loses the early interface when somebody else deletes one of the two.
  */
 inline void installAccessible(QAccessible::InterfaceFactory factory, QWidget *control)
 {

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void pressDragRelease();
     void clickPlaces_data();
     void clickPlaces();
+    void everyPlaceBeginsADrag();
     void otherButtonsAndWheelPass();
     void keys_data();
     void keys();
@@ -149,6 +150,27 @@ void tst_SliderEx::clickPlaces()
     QTest::mousePress(&slider, Qt::LeftButton, Qt::NoModifier, point);
     // Where the handle has jumped away from the pointer, QSlider goes on from there.
     QCOMPARE(values.value(0, -1), expected);
+}
+
+// Also between two values that are further apart than the handle is long, and above and below it.
+void tst_SliderEx::everyPlaceBeginsADrag()
+{
+    CSliderEx slider(nullptr);
+    prepare(slider, Qt::Horizontal, QSize(180, 40));
+    slider.setRange(0, 7);
+    int previous = 0;
+    for (int x = 1; x < slider.width(); ++x) { // (0, 0) is the middle to QTest
+        const QPoint point(x, x % slider.height());
+        QTest::mousePress(&slider, Qt::LeftButton, Qt::NoModifier, point);
+        QVERIFY2(slider.isSliderDown(), qPrintable(QString::number(x)));
+        const int value = slider.value();
+        QVERIFY2(value == previous || value == previous + 1, qPrintable(QString::number(x)));
+        previous = value;
+        QTest::mouseMove(&slider, point + QPoint(0, 1));
+        QCOMPARE(slider.value(), value);
+        QTest::mouseRelease(&slider, Qt::LeftButton, Qt::NoModifier, point + QPoint(0, 1));
+    }
+    QCOMPARE(previous, 7);
 }
 
 void tst_SliderEx::otherButtonsAndWheelPass()
