@@ -106,11 +106,19 @@ QMap<QString, QImage> paintedElements(const QRect &place)
         painter->translate(place.topLeft());
         style->drawComplexControl(QStyle::CC_ScrollBar, &bar, painter);
     };
+    auto entry = optionFor<QStyleOptionMenuItem>(place);
+    entry.menuItemType = QStyleOptionMenuItem::Normal;
+    entry.checkType = QStyleOptionMenuItem::NonExclusive;
+    entry.menuHasCheckableItems = entry.checked = true;
+    const auto drawEntry = [&](QStyle *style, QPainter *painter) {
+        style->drawControl(QStyle::CE_MenuItem, &entry, painter);
+    };
     const CButtonEx face;
     return {{QStringLiteral("check box"), primitive(QStyle::PE_IndicatorCheckBox)},
             {QStringLiteral("radio button"), primitive(QStyle::PE_IndicatorRadioButton)},
             {QStringLiteral("button"), primitive(QStyle::PE_PanelButtonCommand, &face)},
             {QStringLiteral("drop-down"), painted(drawBox)},
+            {QStringLiteral("menu entry"), painted(drawEntry)},
             {QStringLiteral("scroll bar"), painted(drawBar)}};
 }
 
