@@ -51,13 +51,12 @@ bool canBeCalled(const QMetaMethod &method)
            method.parameterCount() <= 3 && !isLeftOut(method.name());
 }
 
-// After these Qt itself goes on with the widget. The first four always come from the midst of Qt's code; a text box
-// loses the focus also while Qt hides or disables it, and a press beside a slider's handle steps by a page.
+// After these Qt itself goes on with the widget: they come from the midst of its code. A text box loses the focus also
+// while Qt hides or disables it.
 bool mayDestroy(const QMetaMethod &signal)
 {
-    static const QByteArray without[] = {
-        "focusIn",  "MessageBox_Moved", "tempSliderReleased", "temperatureSliderReleased",
-        "focusOut", "zoomChanged",      "signal_SliderMoved"};
+    static const QByteArray without[] = {"focusIn", "focusOut", "MessageBox_Moved", "tempSliderReleased",
+                                         "temperatureSliderReleased"};
     return signal.methodType() == QMetaMethod::Signal &&
            std::find(std::begin(without), std::end(without), signal.name()) == std::end(without);
 }
