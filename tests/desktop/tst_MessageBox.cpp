@@ -128,6 +128,9 @@ void tst_MessageBox::init()
     m_window->setGeometry(100, 100, 1080, 850);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    // On the screen, too: a box takes its picture of it at once.
+    const QPoint corner = m_window->geometry().bottomRight();
+    QTRY_COMPARE(screenPicture().pixel(corner), patternAt(corner));
 }
 
 void tst_MessageBox::cleanup()
