@@ -75,6 +75,9 @@ QImage screenPicture()
 bool showsPatternBehind(const CMessageBoxEx &box)
 {
     const QImage screen = screenPicture();
+    const QPoint middle = box.mapToGlobal(box.rect().center());
+    if (screen.pixel(middle) == patternAt(middle))
+        return false; // it has not come to its place yet
     for (int column = 1; column <= pureColumns; ++column) {
         for (int y = 0; y < box.height(); ++y) {
             const QPoint global = box.mapToGlobal(QPoint(box.width() - column, y));
