@@ -21,7 +21,7 @@ constexpr qint64 megabyte = qint64(1024) * 1024;
 #ifdef __SANITIZE_ADDRESS__
 constexpr long mostKilobytes = 800 * 1024;
 #else
-constexpr long mostKilobytes = 256 * 1024;
+constexpr long mostKilobytes = 256L * 1024;
 #endif
 
 const QStringList color{QStringLiteral("color"), QStringLiteral("UIGCLR_PB_NORMAL_BOTTOM")};

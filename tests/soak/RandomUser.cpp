@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDrag>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -63,6 +64,14 @@ private:
     QPointer<QWindow> m_window;
     Qt::MouseButton m_held = Qt::NoButton;
 };
+
+// It has an event loop of its own.
+bool isTextDragged()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(),
+                       [](const QWidget *window) { return window->findChild<QDrag *>() != nullptr; });
+}
 
 QWidget *openTop()
 {
@@ -142,7 +151,7 @@ void RandomUser::operate()
     m_patience = openTop() != nullptr ? m_patience + 1 : 0;
     if (m_patience > mostPatience)
         closeWindow();
-    else if (m_isDragging)
+    else if (isTextDragged())
         letGo();
     else if (number(rarely) == 0)
         resizeWindow();
@@ -251,15 +260,12 @@ void RandomUser::drag()
     note("drag", from);
     Hand hand(window);
     hand.press(from);
-    m_isDragging = true;
     for (int step = 1; step <= dragSteps; ++step)
         hand.move(from + (to - from) * step / dragSteps);
-    m_isDragging = false;
     hand.release(to);
 }
 
-// Of a text that is being dragged: the only thing that runs an event loop while the pointer moves, and in which a user
-// can do nothing else.
+// The only thing that a user can do while a text is dragged.
 void RandomUser::letGo()
 {
     Hand(m_main->windowHandle()).release(QPoint());

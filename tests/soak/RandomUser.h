@@ -60,6 +60,5 @@ private:
     int m_running = 0; // operations on the stack: some open what has an event loop of its own
     int m_patience = 0;
     int m_quietTicks = 0;
-    bool m_isDragging = false;
     bool m_isResting = true;
 };

@@ -14,12 +14,12 @@ constexpr int yesOrNo = QMessageBox::Yes | QMessageBox::Default;
 constexpr int optionsButton = QMessageBox::Apply | CMessageBoxEx::popupButton;
 constexpr int allTitleButtons = 7;
 constexpr int countDownSeconds = 5;
-constexpr QLatin1String orderName("order");
+constexpr char orderName[] = "order";
 
 QWidget *makeOrder(const OrderTexts &texts)
 {
     auto *order = new QWidget;
-    order->setObjectName(orderName);
+    order->setObjectName(QLatin1String(orderName));
     auto *form = new QFormLayout(order);
     form->setContentsMargins(0, 0, 0, 0);
     auto *copies = new QSpinBox;
@@ -128,7 +128,7 @@ std::unique_ptr<CMessageBoxEx> makeBox(BoxForm form, BoxEdge edge, const SampleT
 
 QWidget *contentOf(const CMessageBoxEx *box)
 {
-    return box->findChild<QWidget *>(orderName);
+    return box->findChild<QWidget *>(QLatin1String(orderName));
 }
 
 } // namespace gallery
