@@ -29,7 +29,7 @@ constexpr double defaultMinutes = 10;
 constexpr int fewestStages = 6;    // each ends with a count
 constexpr double warmUp = 0.3;     // of all stages: caches fill, and the sanitizer's quarantine
 constexpr int shortestWarmUp = 60; // seconds; before, every new page fills caches
-constexpr long slackKilobytes = 4 * 1024;
+constexpr long slackKilobytes = 4L * 1024;
 constexpr double heapSlack = 0.05;
 constexpr double residentSlack = 0.1;
 #ifdef __SANITIZE_ADDRESS__
