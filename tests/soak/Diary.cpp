@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include <execinfo.h>
 #include <unistd.h>
 
 #ifdef __SANITIZE_ADDRESS__
@@ -16,6 +17,7 @@ namespace {
 
 constexpr std::size_t entryCount = 50;
 constexpr std::size_t entryLength = 120;
+constexpr std::size_t mostFrames = 64;
 constexpr unsigned longestSilence = 120; // seconds
 
 // Fixed places: whoever tells them may have no memory to ask for.
@@ -33,6 +35,8 @@ void endBySignal(int signal)
 {
     say(signal == SIGALRM ? "soak: nothing happens any more" : "soak: ended by a signal");
     Diary::tell();
+    std::array<void *, mostFrames> frames;
+    backtrace_symbols_fd(frames.data(), backtrace(frames.data(), int(frames.size())), STDERR_FILENO);
     std::signal(signal, SIG_DFL);
     std::raise(signal == SIGALRM ? SIGABRT : signal);
 }

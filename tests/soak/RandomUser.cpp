@@ -125,10 +125,15 @@ void RandomUser::closeSomething()
     }
     if (m_quietTicks++ > 0)
         return;
+    m_top = m_main;
+    note("rest");
     QCursor::setPos(0, 0);
     QToolTip::hideText(); // which destroys its label, other than closing it
+    QList<QPointer<QWidget>> windows;
     for (QWidget *window : QApplication::topLevelWidgets())
-        if (window != m_main && window->isVisible() && window->windowType() != Qt::ToolTip)
+        windows.append(window);
+    for (const QPointer<QWidget> &window : std::as_const(windows)) // one may take others with it
+        if (!window.isNull() && window != m_main && window->isVisible() && window->windowType() != Qt::ToolTip)
             window->close();
     m_main->resize(largest);
     m_main->pageList()->setCurrentRow(1); // a page that is new, also where the first one was shown
