@@ -8,7 +8,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
-// The pen and antialiasing stay set: who draws on after a frame counts on it.
+// The pen and antialiasing stay set on the painter.
 void CCommonControlStyle::drawFrame(const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
     Q_UNUSED(widget)

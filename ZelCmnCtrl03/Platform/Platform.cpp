@@ -144,13 +144,13 @@ std::unique_ptr<QStyle> createNativeStyle()
 QPixmap pictureOfDesktop(const QRect &area)
 {
     const QList<QScreen *> screens = screensIn(area);
+    if (screens.isEmpty())
+        return QPixmap();
     if (screens.size() == 1 && screens.first()->geometry().contains(area))
         return pictureOfScreen(screens.first(), area); // most often; the picture is large, and a copy takes its time
     qreal ratio = 1.0;
     for (const QScreen *screen : screens)
         ratio = std::max(ratio, screen->devicePixelRatio());
-    if (screens.isEmpty())
-        return QPixmap();
     QPixmap picture(area.size() * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);

@@ -75,10 +75,10 @@ void CSliderEx::mousePressEvent(QMouseEvent *event)
     }
     setFocus(Qt::MouseFocusReason);
     const QPointer<CSliderEx> self(this); // who is told of the value may destroy the slider
-    setSliderPosition(pixelPosToRangeValue(zel::localPosition(event) - clickOffset));
+    const QPoint point = zel::localPosition(event);
+    setSliderPosition(pixelPosToRangeValue(point - clickOffset));
     if (self.isNull())
         return;
-    const QPoint point = zel::localPosition(event);
     const QPoint grip = gripFor(point);
     if (grip == point) {
         QSlider::mousePressEvent(event);

@@ -24,17 +24,13 @@
 
 namespace zel {
 
-/** Whether Qt keeps the accessible interface that an object has been given before its class was known. */
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-inline constexpr bool keepsEarlyAccessible = false;
-#else
-inline constexpr bool keepsEarlyAccessible = true;
-#endif
-
+// keepsEarlyAccessible: whether Qt keeps the accessible interface that an object got before its class was known.
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 using EnterEvent = QEnterEvent;
+inline constexpr bool keepsEarlyAccessible = false;
 #else
 using EnterEvent = QEvent;
+inline constexpr bool keepsEarlyAccessible = true;
 #endif
 
 /** Sets a weight of the scale 0 to 99 (50 normal, 75 bold), on every Qt. A weight beyond it counts as its end. */

@@ -129,16 +129,21 @@ void RandomUser::closeSomething()
     note("rest");
     QCursor::setPos(0, 0);
     QToolTip::hideText(); // which destroys its label, other than closing it
-    QList<QPointer<QWidget>> windows;
-    for (QWidget *window : QApplication::topLevelWidgets())
-        windows.append(window);
-    for (const QPointer<QWidget> &window : std::as_const(windows)) // one may take others with it
-        if (!window.isNull() && window != m_main && window->isVisible() && window->windowType() != Qt::ToolTip)
-            window->close();
+    closeOtherWindows();
     m_main->resize(largest);
     m_main->pageList()->setCurrentRow(1); // a page that is new, also where the first one was shown
     m_main->pageList()->setCurrentRow(0);
     m_main->pageList()->setFocus();
+}
+
+void RandomUser::closeOtherWindows()
+{
+    QList<QPointer<QWidget>> windows; // one may take others with it
+    for (QWidget *window : QApplication::topLevelWidgets())
+        windows.append(window);
+    for (const QPointer<QWidget> &window : std::as_const(windows))
+        if (!window.isNull() && window != m_main && window->isVisible() && window->windowType() != Qt::ToolTip)
+            window->close();
 }
 
 void RandomUser::operate()

@@ -34,6 +34,7 @@ private:
     void next();
     void operate();
     void closeSomething();
+    void closeOtherWindows();
 
     void movePointer();
     void click();

@@ -144,13 +144,19 @@ private:
         expect(!hasGrown(&Census::timers), QStringLiteral("there are more and more timers"));
         expect(after.widgets == m_before.widgets, QStringLiteral("widgets are left over: ") + Census::widgetClasses());
         expect(after.timers == m_before.timers, QStringLiteral("timers are left over"));
-        const long mostPixmaps = std::max_element(m_counts.begin(), m_counts.end(), [](auto &left, auto &right) {
-                                     return left.pixmapCacheKilobytes < right.pixmapCacheKilobytes;
-                                 })->pixmapCacheKilobytes;
-        expect(QPixmapCache::cacheLimit() == m_pixmapCacheLimit && mostPixmaps <= bound(m_pixmapCacheLimit, 0),
+        expect(QPixmapCache::cacheLimit() == m_pixmapCacheLimit &&
+                   mostPixmapKilobytes() <= bound(m_pixmapCacheLimit, 0),
                QStringLiteral("the pixmap cache is above its limit"));
         expect(areStylesReleased(), QStringLiteral("a style is still held"));
         expect(QApplication::overrideCursor() == nullptr, QStringLiteral("a cursor is left over"));
+    }
+
+    long mostPixmapKilobytes() const
+    {
+        long most = 0;
+        for (const Census &count : m_counts)
+            most = std::max(most, count.pixmapCacheKilobytes);
+        return most;
     }
 
     void judgeMemory()
@@ -158,7 +164,7 @@ private:
         const int warmStages = int(m_stages * warmUp);
         if (warmStages * m_stageMilliseconds < shortestWarmUp * 1000)
             return;
-        if (!isHeapOurs()) {
+        if (!isMemoryOurs()) {
             m_out << "the memory is not judged: this Qt keeps every key that has been in QPixmapCache\n";
             return;
         }
@@ -170,7 +176,7 @@ private:
     }
 
     // Qt 5 forgets the keys of pixmaps that are gone, after a while. Qt 6.4 does not: some 200 bytes each, for good.
-    static bool isHeapOurs() { return QPixmapCache::cacheLimit() == 0 || QLibraryInfo::version().majorVersion() < 6; }
+    static bool isMemoryOurs() { return QPixmapCache::cacheLimit() == 0 || QLibraryInfo::version().majorVersion() < 6; }
 
     // What is left over once stays; a caret that blinks, or a tool tip on its way out, does not.
     bool hasGrown(int Census::*number) const
