@@ -96,35 +96,37 @@ void RandomUser::rest()
     m_quietTicks = 0;
 }
 
-// The next operation is under way before this one begins: it may open a box, and end with it only.
+// The next operation is under way before this one begins: it may open a box, and end with it only. Whoever hears of the
+// rest may close the gallery, and a text edit that is destroyed in the event loop of its drag takes Qt down.
 void RandomUser::next()
 {
-    if (m_isResting && m_quietTicks >= quietTicks) {
+    const bool isBusy = openTop() != nullptr || m_running > 0 || isTextDragged();
+    if (m_isResting && !isBusy && m_quietTicks >= quietTicks) {
         Q_EMIT rested();
         return;
     }
     QTimer::singleShot(m_isResting ? restInterval : interval, this, &RandomUser::next);
     ++m_running;
-    if (m_isResting)
-        closeSomething();
-    else
+    if (!m_isResting)
         operate();
+    else if (isBusy)
+        closeSomething();
+    else if (m_quietTicks++ == 0)
+        tidyUp();
     --m_running;
 }
 
 void RandomUser::closeSomething()
 {
-    QWidget *top = openTop();
-    if (top != nullptr || m_running > 1) {
-        m_quietTicks = 0;
-        if (top != nullptr)
-            top->close();
-        else
-            letGo();
-        return;
-    }
-    if (m_quietTicks++ > 0)
-        return;
+    m_quietTicks = 0;
+    if (QWidget *top = openTop())
+        top->close();
+    else
+        letGo();
+}
+
+void RandomUser::tidyUp()
+{
     m_top = m_main;
     note("rest");
     QCursor::setPos(0, 0);

@@ -34,6 +34,7 @@ private:
     void next();
     void operate();
     void closeSomething();
+    void tidyUp();
     void closeOtherWindows();
 
     void movePointer();
