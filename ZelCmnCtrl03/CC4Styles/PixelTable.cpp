@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace PixelTable {
@@ -37,6 +38,24 @@ QColor colorOf(const char *key)
     return color;
 }
 
+/** Hands each operation that `rect` has room for to `fill(pixels, color, ink)`. */
+template <typename Fill>
+void forEach(const QRect &rect, const Operation *operations, std::size_t count, Fill &&fill)
+{
+    const char *colorKey = nullptr;
+    QColor color;
+    for (const Operation *operation = operations; operation != operations + count; ++operation) {
+        const QRect pixels = placed(*operation, rect);
+        if (pixels.isEmpty() || !pixels.intersects(rect))
+            continue; // isEmpty: the ends have crossed, and an intersection would put them in order
+        if (operation->ink.colorKey != colorKey) { // runs of one key are looked up once
+            colorKey = operation->ink.colorKey;
+            color = colorOf(colorKey);
+        }
+        fill(pixels & rect, color, operation->ink);
+    }
+}
+
 } // namespace
 
 void draw(QPainter *painter, const QRect &rect, const Operation *operations, std::size_t count, const int *alphas)
@@ -47,24 +66,31 @@ void draw(QPainter *painter, const QRect &rect, const Operation *operations, std
     const bool wasAntialiased = painter->testRenderHint(QPainter::Antialiasing);
     if (wasAntialiased)
         painter->setRenderHint(QPainter::Antialiasing, false);
-
-    const char *colorKey = nullptr;
-    QColor color;
-    for (const Operation *operation = operations; operation != operations + count; ++operation) {
-        const QRect pixels = placed(*operation, rect);
-        if (pixels.isEmpty() || !pixels.intersects(rect))
-            continue; // isEmpty: the ends have crossed, and an intersection would put them in order
-        const Ink &ink = operation->ink;
-        if (ink.colorKey != colorKey) { // runs of one key are looked up once
-            colorKey = ink.colorKey;
-            color = colorOf(colorKey);
-        }
+    forEach(rect, operations, count, [&](const QRect &pixels, QColor color, const Ink &ink) {
         color.setAlpha(ink.alphaSlot >= 0 ? alphas[ink.alphaSlot] : ink.alpha);
         // Rectangles and no lines: they are whole pixels on every device pixel ratio.
-        painter->fillRect(pixels & rect, color);
-    }
+        painter->fillRect(pixels, color);
+    });
     if (wasAntialiased)
         painter->setRenderHint(QPainter::Antialiasing);
+}
+
+// Scaled, an image would be smoothed on some painters.
+void drawComposed(QPainter *painter, const QRect &rect, const Operation *operations, std::size_t count)
+{
+    if (painter->deviceTransform().type() > QTransform::TxTranslate)
+        return draw(painter, rect, operations, count);
+    QImage image(rect.size(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return;
+    image.fill(Qt::transparent);
+    forEach(image.rect(), operations, count, [&image](const QRect &pixels, const QColor &color, const Ink &) {
+        for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+            QRgb *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+            std::fill(line + pixels.left(), line + pixels.right() + 1, color.rgb());
+        }
+    });
+    painter->drawImage(rect.topLeft(), image);
 }
 
 } // namespace PixelTable

@@ -76,4 +76,14 @@ void draw(QPainter *painter, const QRect &rect, const Operation (&operations)[co
     draw(painter, rect, operations, count, alphas);
 }
 
+/** As draw(), several times faster where many operations share a small place. For opaque inks: an alpha counts as none.
+ */
+void drawComposed(QPainter *painter, const QRect &rect, const Operation *operations, std::size_t count);
+
+template <std::size_t count>
+void drawComposed(QPainter *painter, const QRect &rect, const Operation (&operations)[count])
+{
+    drawComposed(painter, rect, operations, count);
+}
+
 } // namespace PixelTable

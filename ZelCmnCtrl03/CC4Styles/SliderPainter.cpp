@@ -93,7 +93,7 @@ void drawHandle(QPainter *painter, const QRect &rect, const QStyleOptionSlider *
 {
     painter->fillRect(rect, partGround(option->palette));
     if (option->orientation == Qt::Horizontal)
-        return PixelTable::draw(painter, rect, SliderPixels::horizontalHandle);
+        return PixelTable::drawComposed(painter, rect, SliderPixels::horizontalHandle);
     painter->save();
     painter->setClipRect(rect, Qt::IntersectClip);
     painter->setPen(Qt::NoPen);
