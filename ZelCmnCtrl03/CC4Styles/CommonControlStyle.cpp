@@ -155,9 +155,8 @@ void CCommonControlStyle::drawControl(ControlElement element, const QStyleOption
     case CE_HeaderSection: return drawHeaderSection(option, painter);
     case CE_Splitter: return drawSplitter(option, painter);
     case CE_ComboBoxLabel: return drawComboBoxLabel(option, painter, widget);
+    // Items are drawn by our own metrics. The others every base draws as this does, on a longer way.
     case CE_ItemViewItem:
-        return QCommonStyle::drawControl(element, option, painter, widget); // by our own metrics
-    // Bases draw these as every style does, on a longer way.
     case CE_PushButton:
     case CE_CheckBox:
     case CE_CheckBoxLabel:

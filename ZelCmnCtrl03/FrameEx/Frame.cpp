@@ -28,6 +28,7 @@ CFrame::~CFrame()
     ZEL_LOG_SCOPE;
 }
 
+// By value in the public interface. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void CFrame::SetGradientFrame(QColor color)
 {
     ZEL_LOG_SCOPE;

@@ -13,6 +13,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -65,6 +66,7 @@ CZoomSlider::CZoomSlider(QWidget *parent) : QWidget(parent)
     Initialize();
 }
 
+// By value in the public interface. NOLINTNEXTLINE(performance-unnecessary-value-param)
 CZoomSlider::CZoomSlider(QWidget *parent, QString zoomIn, QString zoomOut) : QWidget(parent)
 {
     ZEL_LOG_SCOPE_SAYING(u"CZoomSlider::CZoomSlider - QString zoomIn, QString zoomOut", zel::CommonControls);
@@ -101,7 +103,7 @@ void CZoomSlider::nameParts()
 {
     const QStringList names = {tr("Smaller"), tr("Zoom"), tr("Larger")};
     QWidget *const parts[] = {m_pSmallerButton, m_pSlider, m_pLargerButton};
-    for (int i = 0; i < names.size(); ++i)
+    for (int i = 0; i < int(std::size(parts)); ++i)
         if (parts[i]->accessibleName() == m_sPartNames.value(i))
             parts[i]->setAccessibleName(names.at(i));
     m_sPartNames = names;

@@ -57,6 +57,7 @@ QWidget *makeButton(const Entry &entry, State state, const MakerSettings &settin
 std::vector<Row> stateRows()
 {
     std::vector<Row> rows;
+    rows.reserve(entries.size());
     for (const Entry &entry : entries)
         rows.push_back({entry.name, [entry](State state, const MakerSettings &settings, QWidget *parent) {
                             return onBar({makeButton(entry, state, settings)}, parent);
