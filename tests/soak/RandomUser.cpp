@@ -36,6 +36,9 @@ const Qt::Key keys[] = {Qt::Key_Tab,  Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_U
 const Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
                                           Qt::AltModifier};
 
+// Whoever lets go of a dragged text has nothing more to move or to release.
+int timesLetGo = 0;
+
 // The hand on a window, for as long as there is that window. It is no fault when it is outside by now: what a press or
 // a move opens has an event loop of its own, in which the window may have shrunk.
 class Hand
@@ -55,7 +58,7 @@ public:
 private:
     void send(QEvent::Type kind, Qt::MouseButton button, const QPoint &at)
     {
-        if (m_window.isNull())
+        if (m_window.isNull() || m_timesLetGo != timesLetGo)
             return;
         QMouseEvent event(kind, at, at, m_window->mapToGlobal(at), button, m_held, Qt::NoModifier);
         QCoreApplication::sendEvent(m_window, &event);
@@ -63,6 +66,7 @@ private:
 
     QPointer<QWindow> m_window;
     Qt::MouseButton m_held = Qt::NoButton;
+    const int m_timesLetGo = timesLetGo;
 };
 
 // It has an event loop of its own.
@@ -280,6 +284,7 @@ void RandomUser::drag()
 // The only thing that a user can do while a text is dragged.
 void RandomUser::letGo()
 {
+    ++timesLetGo;
     Hand(m_main->windowHandle()).release(QPoint());
 }
 
