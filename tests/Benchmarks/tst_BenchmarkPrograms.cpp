@@ -17,6 +17,14 @@ constexpr int runLimit = 60 * 1000; // milliseconds
 const QString bench = QStringLiteral(BENCH);
 const QString animations = QStringLiteral(ANIMATIONS);
 
+QStringList list(std::initializer_list<const char *> texts)
+{
+    QStringList all;
+    for (const char *text : texts)
+        all.append(QString::fromLatin1(text));
+    return all;
+}
+
 /** One run of a program to its end. */
 struct Run
 {
@@ -57,11 +65,7 @@ public:
         QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
 
-    Run run() const
-    {
-        return Run(path("zel_bench"), {QStringLiteral("--rounds"), QStringLiteral("1"), QStringLiteral("--only"),
-                                       QStringLiteral("a process"), QStringLiteral("--json")});
-    }
+    Run run() const { return Run(path("zel_bench"), list({"--rounds", "1", "--only", "a process", "--json"})); }
 
 private:
     QString path(const char *name) const { return m_directory.filePath(QString::fromLatin1(name)); }
@@ -77,13 +81,9 @@ class tst_BenchmarkPrograms : public HouseTest
 
 private Q_SLOTS:
     void paintingIsMeasured();
-    void promiseOfBeingAheadIsTold();
-    void nothingChosenIsAnError_data();
     void nothingChosenIsAnError();
     void namesAreListed();
-    void firstPaintTellsTimeAndMemory_data();
     void firstPaintTellsTimeAndMemory();
-    void unknownStyleFails();
     void processesAreJudged_data();
     void processesAreJudged();
     void animationRuns();
@@ -92,8 +92,7 @@ private Q_SLOTS:
 
 void tst_BenchmarkPrograms::paintingIsMeasured()
 {
-    const Run run(bench, {QStringLiteral("--rounds"), QStringLiteral("1"), QStringLiteral("--only"),
-                          QStringLiteral("limits of painting"), QStringLiteral("--json")});
+    const Run run(bench, list({"--rounds", "1", "--only", "limits of painting", "--json"}));
     QCOMPARE(run.status, int(AllKept)); // nothing is promised of these
     QCOMPARE(run.comparisons().size(), 1);
     const QJsonArray contenders = run.comparisons().at(0)[QStringLiteral("contenders")].toArray();
@@ -103,76 +102,37 @@ void tst_BenchmarkPrograms::paintingIsMeasured()
     QVERIFY(contenders.at(1)[QStringLiteral("ratio")].toDouble() > 1);
 }
 
-void tst_BenchmarkPrograms::promiseOfBeingAheadIsTold()
-{
-    const QStringList arguments{QStringLiteral("--rounds"), QStringLiteral("1"), QStringLiteral("--only"),
-                                QStringLiteral("painting: form of 40")};
-    const Run asJson(bench, arguments + QStringList{QStringLiteral("--json")});
-    QCOMPARE(asJson.comparisons().size(), 1); // and not the one with the cache cleared
-    const QJsonObject form = asJson.comparisons().at(0).toObject();
-    QCOMPARE(form[QStringLiteral("aheadOf")].toArray().at(0).toString(), QStringLiteral("Windows"));
-    for (const char *promise : {"aheadKept", "limitKept", "kept"})
-        QVERIFY2(form[QLatin1String(promise)].isBool(), promise);
-    QCOMPARE(form[QStringLiteral("kept")].toBool(),
-             form[QStringLiteral("aheadKept")].toBool() && form[QStringLiteral("limitKept")].toBool());
-    const Run asTable(bench, arguments);
-    QVERIFY2(asTable.output.contains("; 1 to Windows"), asTable.output.constData());
-}
-
-void tst_BenchmarkPrograms::nothingChosenIsAnError_data()
-{
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("no such name") << bench << QStringList{QStringLiteral("--only"), QStringLiteral("nobody")};
-    QTest::newRow("no such contender") << bench
-                                       << QStringList{QStringLiteral("--only"), QStringLiteral("limits"),
-                                                      QStringLiteral("--alone"), QStringLiteral("nobody")};
-    QTest::newRow("no such animation") << animations << QStringList{QStringLiteral("--only"), QStringLiteral("nobody")};
-}
-
 void tst_BenchmarkPrograms::nothingChosenIsAnError()
 {
-    QFETCH(QString, program);
-    QFETCH(QStringList, arguments);
-    const Run run(program, arguments);
-    QCOMPARE(run.status, int(WrongArguments));
-    QVERIFY2(run.errors.contains("'nobody'"), run.errors.constData());
-    QCOMPARE(run.output, QByteArray());
+    for (const Run &run :
+         {Run(bench, list({"--only", "nobody"})), Run(bench, list({"--only", "limits", "--alone", "nobody"})),
+          Run(animations, list({"--only", "nobody"}))}) {
+        QCOMPARE(run.status, int(WrongArguments));
+        QVERIFY2(run.errors.contains("'nobody'"), run.errors.constData());
+        QCOMPARE(run.output, QByteArray());
+    }
 }
 
 void tst_BenchmarkPrograms::namesAreListed()
 {
-    const Run run(bench, {QStringLiteral("--list"), QStringLiteral("--only"), QStringLiteral("push button, flat")});
+    const Run run(bench, list({"--list", "--only", "push button, flat"}));
     QCOMPARE(run.status, int(AllKept));
     QCOMPARE(run.output, QByteArray("painting: push button, flat\npainting, cache cleared: push button, flat\n"));
 }
 
-void tst_BenchmarkPrograms::firstPaintTellsTimeAndMemory_data()
-{
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("ours") << QStringLiteral(FIRST_PAINT_HOUSE) << QStringList();
-    QTest::newRow("Fusion") << QStringLiteral(FIRST_PAINT_QT) << QStringList{QStringLiteral("Fusion")};
-    QTest::newRow("Windows") << QStringLiteral(FIRST_PAINT_QT) << QStringList{QStringLiteral("Windows")};
-}
-
 void tst_BenchmarkPrograms::firstPaintTellsTimeAndMemory()
 {
-    QFETCH(QString, program);
-    QFETCH(QStringList, arguments);
-    const Run run(program, arguments);
-    QCOMPARE(run.status, 0);
-    const QList<QByteArray> figures = run.output.simplified().split(' ');
-    QCOMPARE(figures.size(), 2);
-    for (const QByteArray &figure : figures)
-        QVERIFY2(figure.toLongLong() > 0, run.output.constData());
-}
-
-void tst_BenchmarkPrograms::unknownStyleFails()
-{
-    const Run run(QStringLiteral(FIRST_PAINT_QT), {QStringLiteral("no style has this name")});
-    QCOMPARE(run.status, 1);
-    QCOMPARE(run.output, QByteArray());
+    for (const Run &run :
+         {Run(QStringLiteral(FIRST_PAINT_HOUSE), {}), Run(QStringLiteral(FIRST_PAINT_QT), list({"Fusion"}))}) {
+        QCOMPARE(run.status, 0);
+        const QList<QByteArray> figures = run.output.simplified().split(' ');
+        QCOMPARE(figures.size(), 2);
+        for (const QByteArray &figure : figures)
+            QVERIFY2(figure.toLongLong() > 0, run.output.constData());
+    }
+    const Run unknown(QStringLiteral(FIRST_PAINT_QT), list({"no style has this name"}));
+    QCOMPARE(unknown.status, 1);
+    QCOMPARE(unknown.output, QByteArray());
 }
 
 void tst_BenchmarkPrograms::processesAreJudged_data()
@@ -183,20 +143,17 @@ void tst_BenchmarkPrograms::processesAreJudged_data()
     QTest::addColumn<QByteArray>("complaint");
     const QByteArray good = "echo 20000000 30000";
     const QByteArray heavy = "echo 29000000 30000";
+    const QByteArray failed = "zel_first_paint_house ours failed: ";
+    const auto row = [](const char *name, const QByteArray &house, const QByteArray &qt, const QByteArray &complaint) {
+        QTest::newRow(name) << house << qt << int(NotKept) << complaint;
+    };
     QTest::newRow("both alike") << good << good << int(AllKept) << QByteArray();
-    QTest::newRow("ours takes too long") << heavy << good << int(NotKept) << QByteArray();
-    QTest::newRow("ours tells nothing") << QByteArray("true") << good << int(NotKept)
-                                        << QByteArray("zel_first_paint_house ours failed: exit status 0");
-    QTest::newRow("ours fails at the end")
-        << good + "; exit 3" << good << int(NotKept) << QByteArray("zel_first_paint_house ours failed: exit status 3");
-    QTest::newRow("ours crashes") << good + "; kill -SEGV $$" << good << int(NotKept)
-                                  << QByteArray("zel_first_paint_house ours failed: Process crashed");
-    QTest::newRow("no memory is told") << QByteArray("echo 20000000") << good << int(NotKept)
-                                       << QByteArray("zel_first_paint_house ours failed");
-    QTest::newRow("both tell nothing") << QByteArray("true") << QByteArray("true") << int(NotKept)
-                                       << QByteArray("zel_first_paint_qt Fusion failed");
-    QTest::newRow("the last peer fails") << good << QByteArray("[ $1 = Windows ] || " + good) << int(NotKept)
-                                         << QByteArray("zel_first_paint_qt Windows failed");
+    row("ours takes too long", heavy, good, "");
+    row("ours tells nothing", "true", good, failed + "exit status 0");
+    row("ours fails at the end", good + "; exit 3", good, failed + "exit status 3");
+    row("ours crashes", good + "; kill -SEGV $$", good, failed + "Process crashed");
+    row("no memory is told", "echo 20000000", good, failed);
+    row("the last peer fails", good, "[ $1 = Windows ] || " + good, "zel_first_paint_qt Windows failed");
 }
 
 void tst_BenchmarkPrograms::processesAreJudged()
@@ -218,8 +175,7 @@ void tst_BenchmarkPrograms::processesAreJudged()
 void tst_BenchmarkPrograms::animationRuns()
 {
     // The slowest: it paints four times, which any machine has the time for.
-    const Run run(animations, {QStringLiteral("--seconds"), QStringLiteral("1.4"), QStringLiteral("--only"),
-                               QStringLiteral("CButtonEx, default"), QStringLiteral("--json")});
+    const Run run(animations, list({"--seconds", "1.4", "--only", "CButtonEx, default", "--json"}));
     QVERIFY2(run.status == AllKept, run.errors.constData());
     QCOMPARE(run.comparisons().size(), 1);
     const QJsonArray contenders = run.comparisons().at(0)[QStringLiteral("contenders")].toArray();
@@ -234,10 +190,7 @@ void tst_BenchmarkPrograms::standingStripFails()
     const QTemporaryDir empty;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("ZEL_GRAPHICS_DIR"), empty.path());
-    const Run run(animations,
-                  {QStringLiteral("--seconds"), QStringLiteral("1.4"), QStringLiteral("--only"),
-                   QStringLiteral("CRainbowProgressDialog"), QStringLiteral("--json")},
-                  environment);
+    const Run run(animations, list({"--seconds", "1.4", "--only", "CRainbowProgressDialog", "--json"}), environment);
     QCOMPARE(run.status, int(NotKept));
     QVERIFY2(run.errors.contains("CRainbowProgressDialog: ours failed: painted 0 times"), run.errors.constData());
     const QJsonArray contenders = run.comparisons().at(0)[QStringLiteral("contenders")].toArray();

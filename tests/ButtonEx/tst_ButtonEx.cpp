@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMenu>
-#include <QMetaProperty>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -75,7 +74,6 @@ private Q_SLOTS:
     void startsAsTold();
     void lowestBitChoosesLook_data();
     void lowestBitChoosesLook();
-    void nameChoosesLook();
     void images();
     void clicks();
     void widthFollowsContents_data();
@@ -84,71 +82,59 @@ private Q_SLOTS:
     void pulseSwellsAroundCentre();
     void pulseStopsAndStarts();
     void glowFadesInAndOut();
-    void glowOfOtherLooks();
+    void onlyEnabledGlowingButtonsGlow();
     void menuNeedsLookAndType();
     void menuOpensOnEntryAndClosesWhenIdle();
     void menuStaysWhileCursorIsOnIt();
     void pressKeepsMenuAway();
     void secondButtonTakesOver();
-    void menuAndButtonMayGo();
+    void menuMayGo();
+    void buttonMayGo();
     void autoRepeatHasNoEffect();
 };
 
 void tst_ButtonEx::startsAsTold()
 {
     CButtonEx button;
-    QCOMPARE(button.buttonStyle(), CButtonEx::BSEX_Normal);
-    QCOMPARE(button.property("buttonStyle").toString(), QStringLiteral("BSEX_Normal"));
     QCOMPARE(button.font().pixelSize(), 14);
     QCOMPARE(static_cast<QWidget &>(button).font().pixelSize(), 14);
-    QCOMPARE(button.textColor(), QColor(Qt::white));
     QCOMPARE(button.cursor().shape(), Qt::PointingHandCursor);
-    QVERIFY(button.hasMouseTracking() && button.pixmap().isNull() && !button.chevron() && !button.isMouseOver());
-    QCOMPARE(button.sizeHint(), QSize(83, 27));
     QCOMPARE(button.buttonSizeHint(), QSize(0, 0));
-    button.setText(QStringLiteral("A text much longer than the hint"));
-    QCOMPARE(button.sizeHint(), QSize(83, 27));
+    for (const QString &text : {QString(), QStringLiteral("A text much longer than the hint")}) {
+        button.setText(text);
+        QCOMPARE(button.sizeHint(), QSize(83, 27));
+    }
 }
 
 void tst_ButtonEx::lowestBitChoosesLook_data()
 {
     QTest::addColumn<int>("value");
-    QTest::addColumn<int>("look");
+    QTest::addColumn<CButtonEx::CButtonStyles>("look");
     QTest::addColumn<QString>("name");
-    const auto row = [](const char *title, int value, CButtonEx::CButtonStyles look, const char *name) {
-        QTest::newRow(title) << value << static_cast<int>(look) << QString::fromLatin1(name);
-    };
-    row("none", 0, CButtonEx::BSEX_Normal, "BSEX_Normal");
-    row("transparent before glowing", 3, CButtonEx::BSEX_Transparent, "BSEX_Transparent");
-    row("glowing before tertiary", 18, CButtonEx::BSEX_Glowing, "BSEX_Glowing");
-    row("active", 4, CButtonEx::BSEX_Active, "BSEX_Active");
-    row("tray before tertiary", 24, CButtonEx::BSEX_Tray, "BSEX_Tray");
-    row("tertiary", 16, CButtonEx::BSEX_Tertiary, "BSEX_Tertiary");
-    row("unknown bit", 32, CButtonEx::BSEX_Normal, "BSEX_Normal");
+    QTest::newRow("none") << 0 << CButtonEx::BSEX_Normal << "BSEX_Normal";
+    QTest::newRow("transparent before glowing") << 3 << CButtonEx::BSEX_Transparent << "BSEX_Transparent";
+    QTest::newRow("glowing before tertiary") << 18 << CButtonEx::BSEX_Glowing << "BSEX_Glowing";
+    QTest::newRow("active") << 4 << CButtonEx::BSEX_Active << "BSEX_Active";
+    QTest::newRow("tray before tertiary") << 24 << CButtonEx::BSEX_Tray << "BSEX_Tray";
+    QTest::newRow("tertiary") << 16 << CButtonEx::BSEX_Tertiary << "BSEX_Tertiary";
+    QTest::newRow("unknown bit") << 32 << CButtonEx::BSEX_Normal << "BSEX_Normal";
 }
 
 void tst_ButtonEx::lowestBitChoosesLook()
 {
     QFETCH(int, value);
-    QFETCH(int, look);
+    QFETCH(CButtonEx::CButtonStyles, look);
     QFETCH(QString, name);
     CButtonEx button;
     button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(value));
-    QCOMPARE(static_cast<int>(button.buttonStyle()), look);
+    QCOMPARE(button.buttonStyle(), look);
     QCOMPARE(button.getButtonStyle(), name);
-    QCOMPARE(button.StyleToString(static_cast<CButtonEx::CButtonStyles>(value)), name);
     CButtonEx byName;
     QVERIFY(byName.setProperty("buttonStyle", name));
-    QCOMPARE(static_cast<int>(byName.buttonStyle()), look);
-}
-
-void tst_ButtonEx::nameChoosesLook()
-{
-    CButtonEx button;
-    button.setButtonStyle(QStringLiteral("BSEX_Tray"));
-    button.setButtonStyle(QStringLiteral("bsex_active"));
-    QCOMPARE(button.buttonStyle(), CButtonEx::BSEX_Tray);
-    QCOMPARE(button.getButtonStyle(), QString());
+    QCOMPARE(byName.buttonStyle(), look);
+    byName.setButtonStyle(QStringLiteral("bsex_active")); // no name of a look
+    QCOMPARE(byName.buttonStyle(), look);
+    QCOMPARE(byName.getButtonStyle(), QString());
 }
 
 void tst_ButtonEx::images()
@@ -299,17 +285,17 @@ void tst_ButtonEx::glowFadesInAndOut()
     QTRY_VERIFY(button.getGlowAlpha() < 0.05F);
 }
 
-void tst_ButtonEx::glowOfOtherLooks()
+void tst_ButtonEx::onlyEnabledGlowingButtonsGlow()
 {
-    CButtonEx button;
-    enter(button);
-    VERIFY_HOLDS_FOR(button.getGlowAlpha() == 0.0F, 60);
-    button.setButtonStyle(CButtonEx::BSEX_Glowing);
-    button.setEnabled(false);
-    enter(button);
-    VERIFY_HOLDS_FOR(button.getGlowAlpha() == 0.0F, 60);
-    leave(button);
-    VERIFY_HOLDS_FOR(button.getGlowAlpha() == 0.0F, 60);
+    CButtonEx normal;
+    CButtonEx disabled;
+    disabled.setButtonStyle(CButtonEx::BSEX_Glowing);
+    disabled.setEnabled(false);
+    enter(normal);
+    enter(disabled);
+    VERIFY_HOLDS_FOR(normal.getGlowAlpha() == 0.0F && disabled.getGlowAlpha() == 0.0F, 60);
+    leave(disabled);
+    VERIFY_HOLDS_FOR(disabled.getGlowAlpha() == 0.0F, 60);
 }
 
 void tst_ButtonEx::menuNeedsLookAndType()
@@ -394,7 +380,7 @@ void tst_ButtonEx::secondButtonTakesOver()
     QVERIFY(!pair.secondMenu.isVisible());
 }
 
-void tst_ButtonEx::menuAndButtonMayGo()
+void tst_ButtonEx::menuMayGo()
 {
     GlowingPair pair;
     auto *menu = new CMenuEx(&pair.window);
@@ -406,33 +392,36 @@ void tst_ButtonEx::menuAndButtonMayGo()
     QTest::mouseClick(&pair.first, Qt::LeftButton);
     leave(pair.first);
     enter(pair.first);
+}
 
-    auto button = std::make_unique<CButtonEx>(&pair.window);
-    GlowingPair::prepare(*button, pair.firstMenu, 10);
-    button->show();
-    enter(*button);
+void tst_ButtonEx::buttonMayGo()
+{
+    GlowingPair pair;
+    const auto makeButton = [&pair](CMenuEx &menu) {
+        auto *button = new CButtonEx(&pair.window);
+        GlowingPair::prepare(*button, menu, 10);
+        button->show();
+        return button;
+    };
+    CButtonEx *gone = makeButton(pair.firstMenu);
+    enter(*gone);
     QVERIFY(pair.firstMenu.isVisible());
-    button.reset();
+    delete gone;
     pair.second.click(); // would hide the menu that nobody watches any more, had it not been forgotten
     QVERIFY(pair.firstMenu.isVisible());
     pair.firstMenu.hide();
 
     // Slots of the menu destroy the button: while the menu closes, while it opens.
-    auto *closing = new CButtonEx(&pair.window);
-    GlowingPair::prepare(*closing, pair.secondMenu, 10);
-    closing->show();
+    const QPointer<CButtonEx> closing = makeButton(pair.secondMenu);
     connect(&pair.secondMenu, &QMenu::aboutToHide, closing, [closing] { delete closing; });
-    const QPointer<CButtonEx> closed(closing);
     enter(*closing);
     leave(*closing);
-    QTRY_VERIFY_WITH_TIMEOUT(closed.isNull(), 3000);
+    QTRY_VERIFY_WITH_TIMEOUT(closing.isNull(), 3000);
 
-    auto *doomed = new CButtonEx(&pair.window);
-    GlowingPair::prepare(*doomed, pair.firstMenu, 10);
-    doomed->show();
+    const QPointer<CButtonEx> doomed = makeButton(pair.firstMenu);
     connect(&pair.firstMenu, &QMenu::aboutToShow, doomed, [doomed] { delete doomed; });
     enter(*doomed);
-    QVERIFY(pair.firstMenu.isVisible());
+    QVERIFY(doomed.isNull() && pair.firstMenu.isVisible());
 }
 
 void tst_ButtonEx::autoRepeatHasNoEffect()

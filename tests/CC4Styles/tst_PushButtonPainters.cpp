@@ -1,13 +1,12 @@
 // Faces, bevel and label of push buttons, with bitmaps of one plain colour each, so that every pixel tells its slice.
+#include "TestLook.h"
 #include "helpers/HouseTest.h"
 
 #include "ButtonEx/ButtonEx.h"
 #include "CC4Styles/CommonControlStyle.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QPixmapCache>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -44,6 +43,13 @@ public:
     mutable QFont textFont;
 };
 
+constexpr QStyle::State resting = QStyle::State_Enabled;
+constexpr QStyle::State lit = QStyle::State_Enabled | QStyle::State_MouseOver;
+constexpr QStyle::State sunken = QStyle::State_Enabled | QStyle::State_Sunken;
+const CButtonEx::CButtonStyles looks[] = {CButtonEx::BSEX_Normal,  CButtonEx::BSEX_Transparent,
+                                          CButtonEx::BSEX_Glowing, CButtonEx::BSEX_Active,
+                                          CButtonEx::BSEX_Tray,    CButtonEx::BSEX_Tertiary};
+
 // Heights of 10; scaled to a button of height 20 the caps are 10 and 12 wide.
 constexpr int leftCap = 10;
 constexpr int rightCap = 12;
@@ -56,24 +62,13 @@ const QColor pressedLeft(4, 0, 0);
 const QColor pressedRight(5, 0, 0);
 const QColor pressedMiddle(6, 0, 0);
 const QColor imageColor(0, 200, 0);
-const QColor nothing(0, 0, 0, 0);
-
-void saveSlice(const QDir &directory, const QString &name, int width, const QColor &color)
-{
-    QImage image(width, 10, QImage::Format_ARGB32);
-    image.fill(color);
-    QVERIFY(image.save(directory.filePath(name + QStringLiteral(".png"))));
-}
 
 QPixmap imageOf(int width, int height, const QColor &color = imageColor)
 {
-    QPixmap pixmap(width, height);
-    pixmap.fill(color);
-    return pixmap;
+    return pixmapOf(QSize(width, height), color);
 }
 
-QStyleOptionButton optionFor(const QWidget &widget, const QString &text = QString(),
-                             QStyle::State state = QStyle::State_Enabled)
+QStyleOptionButton optionFor(const QWidget &widget, const QString &text = QString(), QStyle::State state = resting)
 {
     QStyleOptionButton option;
     option.initFrom(&widget);
@@ -83,9 +78,6 @@ QStyleOptionButton optionFor(const QWidget &widget, const QString &text = QStrin
     return option;
 }
 
-constexpr auto lit = QStyle::State_Enabled | QStyle::State_MouseOver;
-constexpr auto sunken = QStyle::State_Enabled | QStyle::State_Sunken;
-
 } // namespace
 
 Q_DECLARE_METATYPE(QStyle::State)
@@ -93,9 +85,6 @@ Q_DECLARE_METATYPE(QStyle::State)
 class tst_PushButtonPainters : public HouseTest
 {
     Q_OBJECT
-
-public:
-    tst_PushButtonPainters();
 
 private Q_SLOTS:
     void initTestCase();
@@ -110,7 +99,6 @@ private Q_SLOTS:
     void imagePlace();
     void imagesAreNotShared();
     void imagesOfEqualButtonsElsewhere();
-    void faceWithoutWidget();
     void wrongOptionPaintsNothing();
     void panelOfOtherWidgets();
     void transparentFace();
@@ -129,32 +117,24 @@ private:
     QImage face(CButtonEx &button, const QStyleOptionButton &option) const;
     QImage control(QStyle::ControlElement element, const QWidget &button, const QStyleOptionButton &option) const;
 
-    QTemporaryDir m_graphics;
+    const TestLook m_look;
     std::unique_ptr<RecordingStyle> m_style;
 };
 
-tst_PushButtonPainters::tst_PushButtonPainters()
-{
-    qputenv("ZEL_GRAPHICS_DIR", m_graphics.path().toLocal8Bit());
-}
-
 void tst_PushButtonPainters::initTestCase()
 {
-    const QDir directory(m_graphics.path());
-    for (const char *color : {"White", "Green", "Blue"}) {
-        const QString name = QStringLiteral("Pushbutton") + QLatin1String(color);
-        saveSlice(directory, name + QStringLiteral("LeftCap"), leftCap / 2, restingLeft);
-        saveSlice(directory, name + QStringLiteral("RightCap"), rightCap / 2, restingRight);
-        saveSlice(directory, name + QStringLiteral("Blit"), 4, restingMiddle);
-        saveSlice(directory, name + QStringLiteral("PressedLeftCap"), leftCap / 2, pressedLeft);
-        saveSlice(directory, name + QStringLiteral("PressedRightCap"), rightCap / 2, pressedRight);
-        saveSlice(directory, name + QStringLiteral("PressedBlit"), 4, pressedMiddle);
+    const auto addSlice = [this](const QString &name, int width, const QColor &color) {
+        m_look.addBitmap(QStringLiteral("Pushbutton") + name, QSize(width, 10), color);
+    };
+    for (const QString &look : {QStringLiteral("White"), QStringLiteral("Green"), QStringLiteral("Blue")}) {
+        addSlice(look + QStringLiteral("LeftCap"), leftCap / 2, restingLeft);
+        addSlice(look + QStringLiteral("RightCap"), rightCap / 2, restingRight);
+        addSlice(look + QStringLiteral("Blit"), 4, restingMiddle);
+        addSlice(look + QStringLiteral("PressedLeftCap"), leftCap / 2, pressedLeft);
+        addSlice(look + QStringLiteral("PressedRightCap"), rightCap / 2, pressedRight);
+        addSlice(look + QStringLiteral("PressedBlit"), 4, pressedMiddle);
     }
-    QFile xml(directory.filePath(QStringLiteral("UIGraphics.xml")));
-    QVERIFY(xml.open(QIODevice::WriteOnly));
-    xml.write("<look><Color Name='UIGCLR_PB_ACTIVE_TOP'>00FFFF</Color><Color Name='UIGCLR_PB_ACTIVE_BOTTOM'>000080"
-              "</Color></look>");
-    xml.close();
+    m_look.setColors({{"PB_ACTIVE_TOP", QColor(0x00, 0xFF, 0xFF)}, {"PB_ACTIVE_BOTTOM", QColor(0x00, 0x00, 0x80)}});
     m_style = std::make_unique<RecordingStyle>();
 }
 
@@ -181,30 +161,24 @@ QImage tst_PushButtonPainters::control(QStyle::ControlElement element, const QWi
 
 void tst_PushButtonPainters::restingFace_data()
 {
-    QTest::addColumn<int>("look");
+    QTest::addColumn<CButtonEx::CButtonStyles>("look");
     QTest::addColumn<int>("middleEnd"); // first column behind the middle
-    QTest::newRow("white") << static_cast<int>(CButtonEx::BSEX_Normal) << 100 - 1 - rightCap;
-    QTest::newRow("green") << static_cast<int>(CButtonEx::BSEX_Active) << 100 - 1 - rightCap;
-    QTest::newRow("blue, whose middle covers a column of the cap")
-        << static_cast<int>(CButtonEx::BSEX_Tray) << 100 - rightCap;
+    QTest::newRow("white") << CButtonEx::BSEX_Normal << 100 - 1 - rightCap;
+    QTest::newRow("green") << CButtonEx::BSEX_Active << 100 - 1 - rightCap;
+    QTest::newRow("blue, whose middle covers a column of the cap") << CButtonEx::BSEX_Tray << 100 - rightCap;
 }
 
 void tst_PushButtonPainters::restingFace()
 {
-    QFETCH(int, look);
+    QFETCH(CButtonEx::CButtonStyles, look);
     QFETCH(int, middleEnd);
     CButtonEx button;
-    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    button.setButtonStyle(look);
     const QImage image = face(button, optionFor(button));
-    for (int y : {0, 10, 19}) {
-        QCOMPARE(image.pixelColor(0, y), restingLeft);
-        QCOMPARE(image.pixelColor(leftCap - 1, y), restingLeft);
-        QCOMPARE(image.pixelColor(leftCap, y), restingMiddle);
-        QCOMPARE(image.pixelColor(middleEnd - 1, y), restingMiddle);
-        QCOMPARE(image.pixelColor(middleEnd, y), restingRight);
-        QCOMPARE(image.pixelColor(98, y), restingRight);
-        QCOMPARE(image.pixelColor(99, y), nothing);
-    }
+    QCOMPARE(Picture::boundsOf(image, restingLeft), QRect(0, 0, leftCap, 20));
+    QCOMPARE(Picture::boundsOf(image, restingMiddle), QRect(leftCap, 0, middleEnd - leftCap, 20));
+    QCOMPARE(Picture::boundsOf(image, restingRight), QRect(middleEnd, 0, 99 - middleEnd, 20));
+    QVERIFY(!Picture::paintsOutside(image, QRect(0, 0, 99, 20)));
 }
 
 void tst_PushButtonPainters::pressedFace()
@@ -212,30 +186,29 @@ void tst_PushButtonPainters::pressedFace()
     CButtonEx button;
     for (const auto state : {sunken, QStyle::State_Enabled | QStyle::State_On, sunken | QStyle::State_MouseOver}) {
         const QImage image = face(button, optionFor(button, QString(), state));
-        QCOMPARE(image.pixelColor(0, 0), pressedLeft);
-        QCOMPARE(image.pixelColor(leftCap, 10), pressedMiddle);
-        QCOMPARE(image.pixelColor(99 - rightCap, 10), pressedMiddle); // over the cap's first column
-        QCOMPARE(image.pixelColor(100 - rightCap, 19), pressedRight);
-        QCOMPARE(image.pixelColor(99, 10), nothing);
+        QCOMPARE(Picture::boundsOf(image, pressedLeft), QRect(0, 0, leftCap, 20));
+        const int middleEnd = 100 - rightCap; // over the cap's first column
+        QCOMPARE(Picture::boundsOf(image, pressedMiddle), QRect(leftCap, 0, middleEnd - leftCap, 20));
+        QCOMPARE(Picture::boundsOf(image, pressedRight), QRect(middleEnd, 0, rightCap - 1, 20));
+        QVERIFY(!Picture::paintsOutside(image, QRect(0, 0, 99, 20)));
     }
 }
 
 void tst_PushButtonPainters::highlight_data()
 {
-    QTest::addColumn<int>("look");
+    QTest::addColumn<CButtonEx::CButtonStyles>("look");
     QTest::addColumn<QStyle::State>("state");
-    QTest::newRow("hovered white") << static_cast<int>(CButtonEx::BSEX_Normal) << QStyle::State(lit);
-    QTest::newRow("focused green") << static_cast<int>(CButtonEx::BSEX_Active)
-                                   << (QStyle::State_Enabled | QStyle::State_HasFocus);
-    QTest::newRow("hovered blue") << static_cast<int>(CButtonEx::BSEX_Tray) << QStyle::State(lit);
+    QTest::newRow("hovered white") << CButtonEx::BSEX_Normal << lit;
+    QTest::newRow("focused green") << CButtonEx::BSEX_Active << (QStyle::State_Enabled | QStyle::State_HasFocus);
+    QTest::newRow("hovered blue") << CButtonEx::BSEX_Tray << lit;
 }
 
 void tst_PushButtonPainters::highlight()
 {
-    QFETCH(int, look);
+    QFETCH(CButtonEx::CButtonStyles, look);
     QFETCH(QStyle::State, state);
     CButtonEx button;
-    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    button.setButtonStyle(look);
     const QImage image = face(button, optionFor(button, QString(), state));
     const bool isWhite = button.buttonStyle() == CButtonEx::BSEX_Normal;
     const QColor top = isWhite ? QColor(0xFF, 0xDA, 0xB2) : QColor(0x00, 0xFF, 0xFF);
@@ -267,50 +240,37 @@ void tst_PushButtonPainters::disabledFaceIsFaded()
 
 void tst_PushButtonPainters::imagePlace_data()
 {
-    QTest::addColumn<int>("look");
+    QTest::addColumn<CButtonEx::CButtonStyles>("look");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStyle::State>("state");
-    QTest::addColumn<int>("imageWidth");
-    QTest::addColumn<QList<int>>("columns"); // at which a row of the image begins
-    const auto row = [](const char *name, CButtonEx::CButtonStyles look, const char *text, QStyle::State state,
-                        int width, const QList<int> &columns) {
-        QTest::newRow(name) << static_cast<int>(look) << QString::fromLatin1(text) << state << width << columns;
-    };
-    const QStyle::State resting = QStyle::State_Enabled;
-    row("white, centred", CButtonEx::BSEX_Normal, "", resting, 9, {45});
-    row("white, beside text", CButtonEx::BSEX_Normal, "Text", resting, 9, {10});
-    row("white, pressed, centred", CButtonEx::BSEX_Normal, "", sunken, 9, {45});
-    row("green, beside text, narrow", CButtonEx::BSEX_Active, "Text", resting, 9, {20});
-    row("green, pressed, always in its place beside text", CButtonEx::BSEX_Active, "", sunken, 9, {20});
-    row("blue, beside text, narrow", CButtonEx::BSEX_Tray, "Text", resting, 9, {20});
-    row("blue, pressed, centred and in its place beside text", CButtonEx::BSEX_Tray, "", sunken, 9, {20});
+    QTest::addColumn<int>("column"); // at which the image begins
+    QTest::newRow("white, centred") << CButtonEx::BSEX_Normal << "" << resting << 45;
+    QTest::newRow("white, beside text") << CButtonEx::BSEX_Normal << "Text" << resting << 10;
+    QTest::newRow("white, pressed, centred") << CButtonEx::BSEX_Normal << "" << sunken << 45;
+    QTest::newRow("green, beside text, narrow") << CButtonEx::BSEX_Active << "Text" << resting << 20;
+    QTest::newRow("green, pressed, always in its place beside text") << CButtonEx::BSEX_Active << "" << sunken << 20;
+    QTest::newRow("blue, beside text, narrow") << CButtonEx::BSEX_Tray << "Text" << resting << 20;
+    QTest::newRow("blue, pressed, always in its place beside text") << CButtonEx::BSEX_Tray << "" << sunken << 20;
 }
 
 void tst_PushButtonPainters::imagePlace()
 {
-    QFETCH(int, look);
+    QFETCH(CButtonEx::CButtonStyles, look);
     QFETCH(QString, text);
     QFETCH(QStyle::State, state);
-    QFETCH(int, imageWidth);
-    QFETCH(QList<int>, columns);
+    QFETCH(int, column);
+    constexpr int width = 9;
     CButtonEx button;
-    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
-    button.setPixmap(imageOf(imageWidth, 5));
+    button.setButtonStyle(look);
+    button.setPixmap(imageOf(width, 5));
     const QImage image = face(button, optionFor(button, text, state));
-    QList<int> begins;
-    for (int x = 1; x < image.width(); ++x)
-        if (image.pixelColor(x, 9) == imageColor && image.pixelColor(x - 1, 9) != imageColor)
-            begins.append(x);
-    QCOMPARE(begins, columns);
-    QCOMPARE(image.pixelColor(columns.first(), 7), imageColor); // (20 - 5) / 2
-    QVERIFY(image.pixelColor(columns.first(), 6) != imageColor);
+    QCOMPARE(Picture::boundsOf(image, imageColor), QRect(column, 7, width, 5)); // (20 - 5) / 2
 
     // Where the image leaves more than 110 pixels, and two, the narrow inset gives way.
     QStyleOptionButton wide = optionFor(button, QStringLiteral("Text"));
-    wide.rect.setWidth(110 - 2 + imageWidth);
-    const bool isWhite = button.buttonStyle() == CButtonEx::BSEX_Normal;
-    QCOMPARE(face(button, wide).pixelColor(10, 9) == imageColor, isWhite);
-    wide.rect.setWidth(111 - 2 + imageWidth);
+    wide.rect.setWidth(110 - 2 + width);
+    QCOMPARE(face(button, wide).pixelColor(10, 9) == imageColor, look == CButtonEx::BSEX_Normal);
+    wide.rect.setWidth(111 - 2 + width);
     QCOMPARE(face(button, wide).pixelColor(10, 9), imageColor);
 }
 
@@ -349,29 +309,13 @@ void tst_PushButtonPainters::imagesOfEqualButtonsElsewhere()
     QVERIFY(image.pixelColor(7 + 20 + 6, 10) != imageColor);
 }
 
-void tst_PushButtonPainters::faceWithoutWidget()
-{
-    const CButtonEx button;
-    const QStyleOptionButton option = optionFor(button, QString(), lit);
-    const auto draw = [&](const QWidget *widget) {
-        return Picture::of(buttonSize,
-                           [&](QPainter *painter) { m_style->drawNormalPushButton(&option, painter, widget); });
-    };
-    QCOMPARE(draw(&button).pixelColor(99, 19), QColor(0xF7, 0x94, 0x1D));
-    const QImage image = draw(nullptr);
-    QCOMPARE(image.pixelColor(99, 10), option.palette.color(QPalette::Window));
-    QCOMPARE(image.pixelColor(50, 0), restingMiddle); // no highlight
-    const QWidget other;
-    QCOMPARE(draw(&other).pixelColor(50, 0), restingMiddle);
-}
-
 void tst_PushButtonPainters::wrongOptionPaintsNothing()
 {
     CButtonEx button;
     QStyleOption option;
     option.rect = QRect(QPoint(0, 0), buttonSize);
-    for (int look : {0, 1, 2, 4, 8, 16}) {
-        button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    for (const auto look : looks) {
+        button.setButtonStyle(look);
         const QImage image = Picture::of(buttonSize, [&](QPainter *painter) {
             m_style->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, painter, &button);
             m_style->drawControl(QStyle::CE_PushButtonBevel, &option, painter, &button);
@@ -396,6 +340,10 @@ void tst_PushButtonPainters::panelOfOtherWidgets()
     CButtonEx tertiary;
     tertiary.setButtonStyle(CButtonEx::BSEX_Tertiary);
     QVERIFY(Picture::isBlank(face(tertiary, option)));
+    const QStyleOptionButton hovered = optionFor(plain, QString(), lit);
+    const QImage askedByName =
+        Picture::of(buttonSize, [&](QPainter *painter) { m_style->drawNormalPushButton(&hovered, painter, nullptr); });
+    QCOMPARE(askedByName.pixelColor(50, 0), restingMiddle); // no button that could be hovered
 }
 
 void tst_PushButtonPainters::transparentFace()
@@ -422,8 +370,7 @@ void tst_PushButtonPainters::glowingFace()
     QCOMPARE(image.pixelColor(imageRect.topLeft()), imageColor);
     QVERIFY(!Picture::paintsOutside(image, imageRect)); // no glow, no outline
 
-    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-    QCoreApplication::sendEvent(&button, &enter);
+    Pointer::enter(button);
     QTRY_VERIFY(button.getGlowAlpha() > 0.95F);
     image = face(button, option);
     // Core in the middle, fading outwards over 25 pixels on all sides.
@@ -517,73 +464,67 @@ void tst_PushButtonPainters::plainButtonHasOneLabel()
 
 void tst_PushButtonPainters::labelColours_data()
 {
-    QTest::addColumn<int>("look");
-    QTest::addColumn<QString>("active");
-    QTest::addColumn<QString>("disabled");
-    const auto row = [](const char *name, CButtonEx::CButtonStyles look, const char *active, const char *disabled) {
-        QTest::newRow(name) << static_cast<int>(look) << QString::fromLatin1(active) << QString::fromLatin1(disabled);
-    };
-    row("white", CButtonEx::BSEX_Normal, "#c8000000", "#3c000000");
-    row("transparent", CButtonEx::BSEX_Transparent, "#ff123456", "#ff123456");
-    row("glowing", CButtonEx::BSEX_Glowing, "#ffffffff", "#ffffffff");
-    row("green", CButtonEx::BSEX_Active, "#ffffffff", "#ff808080");
-    row("blue", CButtonEx::BSEX_Tray, "#ffffffff", "#ff808080");
+    QTest::addColumn<CButtonEx::CButtonStyles>("look");
+    QTest::addColumn<QColor>("active");
+    QTest::addColumn<QColor>("disabled");
+    const QColor white(Qt::white);
+    const QColor grey(0x80, 0x80, 0x80);
+    const QColor own(0x12, 0x34, 0x56);
+    QTest::newRow("white") << CButtonEx::BSEX_Normal << QColor(0, 0, 0, 200) << QColor(0, 0, 0, 60);
+    QTest::newRow("transparent") << CButtonEx::BSEX_Transparent << own << own;
+    QTest::newRow("glowing") << CButtonEx::BSEX_Glowing << white << white;
+    QTest::newRow("green") << CButtonEx::BSEX_Active << white << grey;
+    QTest::newRow("blue") << CButtonEx::BSEX_Tray << white << grey;
 }
 
 void tst_PushButtonPainters::labelColours()
 {
-    QFETCH(int, look);
-    QFETCH(QString, active);
-    QFETCH(QString, disabled);
+    QFETCH(CButtonEx::CButtonStyles, look);
+    QFETCH(QColor, active);
+    QFETCH(QColor, disabled);
     CButtonEx button;
-    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    button.setButtonStyle(look);
     button.setTextColor(QColor(0x12, 0x34, 0x56));
     control(QStyle::CE_PushButtonLabel, button, optionFor(button, QStringLiteral("Text")));
     QCOMPARE(m_style->textRole, QPalette::ButtonText);
     QVERIFY(m_style->textEnabled);
-    const auto color = [this](QPalette::ColorGroup group) {
-        return m_style->textPalette.color(group, QPalette::ButtonText).name(QColor::HexArgb);
-    };
-    QCOMPARE(color(QPalette::Active), active);
-    QCOMPARE(color(QPalette::Inactive), active);
-    QCOMPARE(color(QPalette::Disabled), disabled);
+    QCOMPARE(m_style->textPalette.color(QPalette::Active, QPalette::ButtonText), active);
+    QCOMPARE(m_style->textPalette.color(QPalette::Inactive, QPalette::ButtonText), active);
+    QCOMPARE(m_style->textPalette.color(QPalette::Disabled, QPalette::ButtonText), disabled);
 }
 
 void tst_PushButtonPainters::labelPlace_data()
 {
-    QTest::addColumn<int>("look");
+    QTest::addColumn<CButtonEx::CButtonStyles>("look");
     QTest::addColumn<int>("width");
     QTest::addColumn<bool>("withImage");
     QTest::addColumn<int>("left");
     QTest::addColumn<int>("flags");
-    const auto row = [](const char *name, CButtonEx::CButtonStyles look, int width, bool image, int left, int flags) {
-        QTest::newRow(name) << static_cast<int>(look) << width << image << left << flags;
-    };
-    row("white", CButtonEx::BSEX_Normal, 100, false, 0, 0x884);
-    row("white, image", CButtonEx::BSEX_Normal, 100, true, 16 + 11, 0x881);
-    row("transparent, image", CButtonEx::BSEX_Transparent, 100, true, 16 + 11, 0x881);
-    row("green, image, narrow", CButtonEx::BSEX_Active, 110, true, 16 + 21, 0x881);
-    row("green, image, wide", CButtonEx::BSEX_Active, 111, true, 16 + 11, 0x881);
-    row("blue, image, narrow", CButtonEx::BSEX_Tray, 110, true, 16 + 21, 0x881);
-    row("blue, image, wide", CButtonEx::BSEX_Tray, 111, true, 16 + 11, 0x881);
-    row("glowing, image", CButtonEx::BSEX_Glowing, 100, true, 0, 0x844);
+    QTest::newRow("white") << CButtonEx::BSEX_Normal << 100 << false << 0 << 0x884;
+    QTest::newRow("white, image") << CButtonEx::BSEX_Normal << 100 << true << 16 + 11 << 0x881;
+    QTest::newRow("transparent, image") << CButtonEx::BSEX_Transparent << 100 << true << 16 + 11 << 0x881;
+    QTest::newRow("green, image, narrow") << CButtonEx::BSEX_Active << 110 << true << 16 + 21 << 0x881;
+    QTest::newRow("green, image, wide") << CButtonEx::BSEX_Active << 111 << true << 16 + 11 << 0x881;
+    QTest::newRow("blue, image, narrow") << CButtonEx::BSEX_Tray << 110 << true << 16 + 21 << 0x881;
+    QTest::newRow("blue, image, wide") << CButtonEx::BSEX_Tray << 111 << true << 16 + 11 << 0x881;
+    QTest::newRow("glowing, image") << CButtonEx::BSEX_Glowing << 100 << true << 0 << 0x844;
 }
 
 void tst_PushButtonPainters::labelPlace()
 {
-    QFETCH(int, look);
+    QFETCH(CButtonEx::CButtonStyles, look);
     QFETCH(int, width);
     QFETCH(bool, withImage);
     QFETCH(int, left);
     QFETCH(int, flags);
     CButtonEx button;
-    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    button.setButtonStyle(look);
     QFont font = button.font();
     font.setPixelSize(18);
     button.setFont(font);
     if (withImage)
         button.setPixmap(imageOf(16, 16));
-    for (const QStyle::State state : {QStyle::State(QStyle::State_Enabled), QStyle::State(sunken)}) {
+    for (const QStyle::State state : {resting, sunken}) {
         QStyleOptionButton option = optionFor(button, QStringLiteral("Text"), state);
         option.rect.setWidth(width);
         control(QStyle::CE_PushButtonLabel, button, option);
@@ -600,13 +541,13 @@ void tst_PushButtonPainters::everyStateAndSizeIsSafe()
     button.setPixmap(imageOf(3, 3));
     button.setChevron(true);
     button.setButtonStyle(CButtonEx::BSEX_Glowing);
-    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
-    QCoreApplication::sendEvent(&button, &enter);
+    Pointer::enter(button);
     QTRY_VERIFY(button.getGlowAlpha() > 0.95F);
     const QPoint place(4, 6);
-    for (int look : {0, 1, 2, 4, 8, 16}) {
-        button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
-        const bool isBitmapLook = look == 0 || look == 4 || look == 8;
+    for (const auto look : looks) {
+        button.setButtonStyle(look);
+        const bool isBitmapLook =
+            look == CButtonEx::BSEX_Normal || look == CButtonEx::BSEX_Active || look == CButtonEx::BSEX_Tray;
         for (int bits = 0; bits < 256; ++bits) {
             QStyleOptionButton option = optionFor(button, QString(), QStyle::State_None);
             option.state.setFlag(QStyle::State_Enabled, (bits & 1) != 0);

@@ -1,4 +1,5 @@
 // The painters of standard widgets.
+#include "TestLook.h"
 #include "helpers/HouseTest.h"
 
 #include "ButtonEx/ButtonEx.h"
@@ -8,13 +9,10 @@
 #include "UiGraphics.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QPixmapCache>
 #include <QScopeGuard>
 #include <QSpinBox>
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <qdrawutil.h>
 
 #include <memory>
@@ -26,30 +24,20 @@ using Picture::Layers;
 
 const QColor callersPen(Qt::green);
 
-// Colours that the look has not, where its own are too much alike, or white on white.
 const QColor red(0xF0, 0x10, 0x10);
 const QColor green(0x20, 0xE0, 0x20);
 const QColor blue(0x30, 0x30, 0xD0);
-const QPair<const char *, QColor> lookColors[] = {
-    {"RECTGRAD1 PE_PANELTIPLABEL_GRAD1 SPIN_BORDER TABBAR_SHADOW", red},
-    {"SPIN_BACKGROUND", green},
-    {"RECTGRAD2 PE_PANELTIPLABEL_GRAD2 SPIN_ARROW", blue},
-};
-
-QStringList words(const char *text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '));
-}
 
 // One colour each, so that a pixel tells which bitmap it came from.
 const QStringList bitmaps =
-    words("CheckboxActive CheckboxActiveHover CheckboxActiveChecked CheckboxActiveCheckedHover CheckboxInactive "
-          "CheckboxInactiveChecked CheckboxActivePressed RadiobuttonActive RadiobuttonActiveHover "
-          "RadiobuttonActiveSelected RadiobuttonActiveSelectedHover RadiobuttonInactive RadiobuttonInactiveSelected "
-          "ScrollbarBlueArrowTop ScrollbarBlueArrowBottom ScrollbarBlueArrowLeft ScrollbarBlueArrowRight "
-          "ScrollbarBlueSliderTop ScrollbarBlueSliderBottom ScrollbarBlueSliderLeft ScrollbarBlueSliderRight "
-          "ScrollbarGreySliderTop ScrollbarGreySliderBottom ScrollbarGreySliderLeft ScrollbarGreySliderRight "
-          "dropdown-menu-arrow");
+    QStringLiteral("CheckboxActive CheckboxActiveHover CheckboxActiveChecked CheckboxActiveCheckedHover "
+                   "CheckboxInactive CheckboxInactiveChecked CheckboxActivePressed RadiobuttonActive "
+                   "RadiobuttonActiveHover RadiobuttonActiveSelected RadiobuttonActiveSelectedHover "
+                   "RadiobuttonInactive RadiobuttonInactiveSelected ScrollbarBlueArrowTop ScrollbarBlueArrowBottom "
+                   "ScrollbarBlueArrowLeft ScrollbarBlueArrowRight ScrollbarBlueSliderTop ScrollbarBlueSliderBottom "
+                   "ScrollbarBlueSliderLeft ScrollbarBlueSliderRight ScrollbarGreySliderTop ScrollbarGreySliderBottom "
+                   "ScrollbarGreySliderLeft ScrollbarGreySliderRight dropdown-menu-arrow")
+        .split(QLatin1Char(' '));
 
 QSize sizeOf(const QString &bitmap)
 {
@@ -80,22 +68,11 @@ QColor grey(int value)
     return QColor(value, value, value);
 }
 
-QPixmap pixmapOf(const QSize &size, const QColor &color)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(color);
-    return pixmap;
-}
-
 QString note(const char *what, int element, const QRect &rect)
 {
-    return QStringLiteral("%1 %2 at %3,%4 %5x%6")
-        .arg(QLatin1String(what))
-        .arg(element)
-        .arg(rect.x())
-        .arg(rect.y())
-        .arg(rect.width())
-        .arg(rect.height());
+    QString text;
+    QDebug(&text) << what << element << rect;
+    return text;
 }
 
 /** Notes what it is asked to draw. Its tab bars overlap their pages by two pixels; the bases do not agree on that. */
@@ -135,12 +112,11 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(QStyle::State)
+
 class tst_StandardWidgets : public HouseTest
 {
     Q_OBJECT
-
-public:
-    tst_StandardWidgets() { qputenv("ZEL_GRAPHICS_DIR", m_graphics.path().toLocal8Bit()); }
 
 private Q_SLOTS:
     void initTestCase();
@@ -165,16 +141,13 @@ private Q_SLOTS:
     void menuTexts_data();
     void menuTexts();
     void subMenuArrow();
-    void headers_data();
     void headers();
     void headerSection();
     void splitters();
     void scrollBar_data();
     void scrollBar();
-    void scrollBarPictures_data();
-    void scrollBarPictures();
+    void scrollBarParts();
     void comboBox();
-    void comboBoxLabel_data();
     void comboBoxLabel();
     void spinBox();
     void wrongOptionsPaintNothing();
@@ -210,26 +183,19 @@ private:
             option, brush, [&](QPainter *painter) { m_noting->drawComplexControl(element, &option, painter, widget); });
     }
 
-    QTemporaryDir m_graphics;
+    const TestLook m_look;
     CCommonControlStyle *m_style = nullptr; // the application's
     std::unique_ptr<NotingStyle> m_noting;  // paints
 };
 
 void tst_StandardWidgets::initTestCase()
 {
-    const QDir directory(m_graphics.path());
     for (const QString &bitmap : bitmaps)
-        QVERIFY(pixmapOf(sizeOf(bitmap), colorOf(bitmap)).save(directory.filePath(bitmap + QStringLiteral(".png"))));
-    QFile xml(directory.filePath(QStringLiteral("UIGraphics.xml")));
-    QVERIFY(xml.open(QIODevice::WriteOnly));
-    xml.write("<look>");
-    for (const auto &color : lookColors) {
-        for (const QString &key : words(color.first))
-            xml.write(
-                QStringLiteral("<Color Name='UIGCLR_%1'>%2</Color>").arg(key, color.second.name().mid(1)).toLatin1());
-    }
-    xml.write("</look>");
-    xml.close();
+        m_look.addBitmap(bitmap, sizeOf(bitmap), colorOf(bitmap));
+    // What the look itself has here is too much alike, or white on white.
+    m_look.setColors({{"RECTGRAD1 PE_PANELTIPLABEL_GRAD1 SPIN_BORDER TABBAR_SHADOW", red},
+                      {"SPIN_BACKGROUND", green},
+                      {"RECTGRAD2 PE_PANELTIPLABEL_GRAD2 SPIN_ARROW", blue}});
     m_style = qobject_cast<CCommonControlStyle *>(CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style));
     QVERIFY(m_style != nullptr);
     m_noting = std::make_unique<NotingStyle>();
@@ -280,27 +246,25 @@ void tst_StandardWidgets::menuFrameAndTipPanel()
 
 void tst_StandardWidgets::indicatorBitmaps_data()
 {
-    QTest::addColumn<int>("state");
+    QTest::addColumn<QStyle::State>("state");
     QTest::addColumn<QString>("end");
-    const auto row = [](const char *name, QStyle::State state, const char *end) {
-        QTest::newRow(name) << static_cast<int>(state) << QString::fromLatin1(end);
-    };
     const QStyle::State on = QStyle::State_Enabled;
-    row("at rest", on, "Active");
-    row("hovered", on | QStyle::State_MouseOver, "ActiveHover");
-    row("focused", on | QStyle::State_HasFocus, "ActiveHover");
-    row("checked", on | QStyle::State_On, "ActiveChecked");
-    row("partly", on | QStyle::State_NoChange, "ActiveChecked");
-    row("checked, hovered", on | QStyle::State_On | QStyle::State_MouseOver, "ActiveCheckedHover");
-    row("disabled, hovered", QStyle::State_MouseOver, "Inactive");
-    row("disabled, checked", QStyle::State_On, "InactiveChecked");
+    const QStyle::State hovered = QStyle::State_MouseOver;
+    QTest::newRow("at rest") << on << "Active";
+    QTest::newRow("hovered") << (on | hovered) << "ActiveHover";
+    QTest::newRow("focused") << (on | QStyle::State_HasFocus) << "ActiveHover";
+    QTest::newRow("checked") << (on | QStyle::State_On) << "ActiveChecked";
+    QTest::newRow("partly") << (on | QStyle::State_NoChange) << "ActiveChecked";
+    QTest::newRow("checked, hovered") << (on | hovered | QStyle::State_On) << "ActiveCheckedHover";
+    QTest::newRow("disabled, hovered") << hovered << "Inactive";
+    QTest::newRow("disabled, checked") << QStyle::State(QStyle::State_On) << "InactiveChecked";
 }
 
 void tst_StandardWidgets::indicatorBitmaps()
 {
-    QFETCH(int, state);
+    QFETCH(QStyle::State, state);
     QFETCH(QString, end);
-    auto option = optionFor<QStyleOptionButton>(QRect(0, 0, 16, 16), static_cast<QStyle::State>(state));
+    auto option = optionFor<QStyleOptionButton>(QRect(0, 0, 16, 16), state);
     QCOMPARE(primitive(QStyle::PE_IndicatorCheckBox, option).pixelColor(9, 9),
              colorOf(QStringLiteral("Checkbox") + end));
     end.replace(QLatin1String("Checked"), QLatin1String("Selected"));
@@ -366,7 +330,7 @@ const Picture::Legend tabLegend = {{'O', {grey(0xD7)}},      {'I', {grey(0xE7)}}
 
 void tst_StandardWidgets::tabShapes_data()
 {
-    QTest::addColumn<int>("shape");
+    QTest::addColumn<QTabBar::Shape>("shape");
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<QRect>("rect"); // of the tab with its gaps
     QTest::addColumn<QPoint>("corner");
@@ -378,29 +342,25 @@ void tst_StandardWidgets::tabShapes_data()
     const QRect upright(10, 15, 17, 15);
     const QPoint right(1, 0);
     const QPoint down(0, 1);
-    const auto row = [](const char *name, QTabBar::Shape shape, Qt::LayoutDirection direction, const QRect &rect,
-                        const QPoint &corner, const QPoint &along, const QPoint &inwards) {
-        QTest::newRow(name) << static_cast<int>(shape) << direction << rect << corner << along << inwards;
-    };
-    row("north", QTabBar::RoundedNorth, ltr, lying, QPoint(12, 15), right, down);
-    row("north, mirrored", QTabBar::RoundedNorth, rtl, lying, QPoint(26, 15), -right, down);
-    row("south", QTabBar::RoundedSouth, ltr, lying, QPoint(12, 26), right, -down);
-    row("south, mirrored", QTabBar::RoundedSouth, rtl, lying, QPoint(26, 26), -right, -down);
-    row("west", QTabBar::RoundedWest, ltr, upright, QPoint(12, 15), down, right);
-    row("west, mirrored", QTabBar::RoundedWest, rtl, upright, QPoint(12, 15), down, right);
-    row("east", QTabBar::RoundedEast, ltr, upright, QPoint(23, 15), down, -right);
+    QTest::newRow("north") << QTabBar::RoundedNorth << ltr << lying << QPoint(12, 15) << right << down;
+    QTest::newRow("north, mirrored") << QTabBar::RoundedNorth << rtl << lying << QPoint(26, 15) << -right << down;
+    QTest::newRow("south") << QTabBar::RoundedSouth << ltr << lying << QPoint(12, 26) << right << -down;
+    QTest::newRow("south, mirrored") << QTabBar::RoundedSouth << rtl << lying << QPoint(26, 26) << -right << -down;
+    QTest::newRow("west") << QTabBar::RoundedWest << ltr << upright << QPoint(12, 15) << down << right;
+    QTest::newRow("west, mirrored") << QTabBar::RoundedWest << rtl << upright << QPoint(12, 15) << down << right;
+    QTest::newRow("east") << QTabBar::RoundedEast << ltr << upright << QPoint(23, 15) << down << -right;
 }
 
 void tst_StandardWidgets::tabShapes()
 {
-    QFETCH(int, shape);
+    QFETCH(QTabBar::Shape, shape);
     QFETCH(Qt::LayoutDirection, direction);
     QFETCH(QRect, rect);
     QFETCH(QPoint, corner);
     QFETCH(QPoint, right);
     QFETCH(QPoint, down);
     auto option = optionFor<QStyleOptionTab>(rect);
-    option.shape = static_cast<QTabBar::Shape>(shape);
+    option.shape = shape;
     option.position = QStyleOptionTab::Middle;
     option.direction = direction;
     const QImage image = control(QStyle::CE_TabBarTabShape, option, Qt::cyan);
@@ -453,25 +413,22 @@ BBBBBBIWWWWWWWWWWWIBBBBBB.....
 
 void tst_StandardWidgets::tabLabelPlaces_data()
 {
-    QTest::addColumn<int>("shape");
+    QTest::addColumn<QTabBar::Shape>("shape");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QRect>("icon");
-    const auto row = [](const char *name, QTabBar::Shape shape, const char *text, const QRect &icon) {
-        QTest::newRow(name) << static_cast<int>(shape) << QString::fromLatin1(text) << icon;
-    };
-    row("beside the text", QTabBar::RoundedNorth, ".", QRect(6, 7, 10, 10));
-    row("alone", QTabBar::RoundedSouth, "", QRect(15, 8, 10, 10));
-    row("read upwards", QTabBar::RoundedWest, ".", QRect(14, 3 + 20 - 16, 10, 10));
-    row("read downwards", QTabBar::TriangularEast, ".", QRect(16, 3 + 6, 10, 10));
+    QTest::newRow("beside the text") << QTabBar::RoundedNorth << "." << QRect(6, 7, 10, 10);
+    QTest::newRow("alone") << QTabBar::RoundedSouth << "" << QRect(15, 8, 10, 10);
+    QTest::newRow("read upwards") << QTabBar::RoundedWest << "." << QRect(14, 3 + 20 - 16, 10, 10);
+    QTest::newRow("read downwards") << QTabBar::TriangularEast << "." << QRect(16, 3 + 6, 10, 10);
 }
 
 void tst_StandardWidgets::tabLabelPlaces()
 {
-    QFETCH(int, shape);
+    QFETCH(QTabBar::Shape, shape);
     QFETCH(QString, text);
     QFETCH(QRect, icon);
     auto option = optionFor<QStyleOptionTab>(QRect(0, 3, 40, 20), QStyle::State_Enabled | QStyle::State_Selected);
-    option.shape = static_cast<QTabBar::Shape>(shape);
+    option.shape = shape;
     option.text = text;
     option.icon = QIcon(pixmapOf(QSize(10, 10), blue));
     option.iconSize = QSize(10, 10);
@@ -480,27 +437,26 @@ void tst_StandardWidgets::tabLabelPlaces()
 
 void tst_StandardWidgets::pageFrames_data()
 {
-    QTest::addColumn<int>("shape");
+    QTest::addColumn<QTabBar::Shape>("shape");
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<QRect>("opening"); // a tab bar of 10 by 6, behind a corner of 5 by 4
-    const auto row = [](const char *name, QTabBar::Shape shape, Qt::LayoutDirection direction, const QRect &opening) {
-        QTest::newRow(name) << static_cast<int>(shape) << direction << opening;
-    };
-    row("north", QTabBar::RoundedNorth, Qt::LeftToRight, QRect(4 + 5, 3, 10, 2));
-    row("north, mirrored", QTabBar::RoundedNorth, Qt::RightToLeft, QRect(4 + 40 - 15, 3, 10, 2));
-    row("south", QTabBar::RoundedSouth, Qt::LeftToRight, QRect(4 + 5, 3 + 18, 10, 2));
-    row("south, mirrored", QTabBar::RoundedSouth, Qt::RightToLeft, QRect(4 + 40 - 15, 3 + 18, 10, 2));
-    row("west", QTabBar::RoundedWest, Qt::RightToLeft, QRect(4, 3 + 4, 2, 6));
-    row("east", QTabBar::RoundedEast, Qt::LeftToRight, QRect(4 + 38, 3 + 4, 2, 6));
+    const auto ltr = Qt::LeftToRight;
+    const auto rtl = Qt::RightToLeft;
+    QTest::newRow("north") << QTabBar::RoundedNorth << ltr << QRect(4 + 5, 3, 10, 2);
+    QTest::newRow("north, mirrored") << QTabBar::RoundedNorth << rtl << QRect(4 + 40 - 15, 3, 10, 2);
+    QTest::newRow("south") << QTabBar::RoundedSouth << ltr << QRect(4 + 5, 3 + 18, 10, 2);
+    QTest::newRow("south, mirrored") << QTabBar::RoundedSouth << rtl << QRect(4 + 40 - 15, 3 + 18, 10, 2);
+    QTest::newRow("west") << QTabBar::RoundedWest << rtl << QRect(4, 3 + 4, 2, 6);
+    QTest::newRow("east") << QTabBar::RoundedEast << ltr << QRect(4 + 38, 3 + 4, 2, 6);
 }
 
 void tst_StandardWidgets::pageFrames()
 {
-    QFETCH(int, shape);
+    QFETCH(QTabBar::Shape, shape);
     QFETCH(Qt::LayoutDirection, direction);
     QFETCH(QRect, opening);
     auto option = optionFor<QStyleOptionTabWidgetFrame>(QRect(4, 3, 40, 20));
-    option.shape = static_cast<QTabBar::Shape>(shape);
+    option.shape = shape;
     option.direction = direction;
     QImage wanted = primitive(QStyle::PE_FrameTabWidget, option);
     QPainter painter(&wanted);
@@ -575,25 +531,24 @@ void tst_StandardWidgets::menuItems()
 
 void tst_StandardWidgets::menuIcons_data()
 {
-    QTest::addColumn<int>("state");
+    QTest::addColumn<QStyle::State>("state");
     QTest::addColumn<bool>("checked");
     QTest::addColumn<QColor>("expected");
-    const auto row = [](const char *name, QStyle::State state, bool checked, const QColor &expected) {
-        QTest::newRow(name) << static_cast<int>(state) << checked << expected;
-    };
-    row("off", QStyle::State_Enabled, false, QColor(0, 0, 200));
-    row("on", QStyle::State_Enabled, true, QColor(0, 0, 201));
-    row("selected", QStyle::State_Enabled | QStyle::State_Selected, false, QColor(0, 0, 202));
-    row("disabled", QStyle::State_Selected, false, QColor(0, 0, 203));
+    const QStyle::State on = QStyle::State_Enabled;
+    const QStyle::State selected = QStyle::State_Selected;
+    QTest::newRow("off") << on << false << QColor(0, 0, 200);
+    QTest::newRow("on") << on << true << QColor(0, 0, 201);
+    QTest::newRow("selected") << (on | selected) << false << QColor(0, 0, 202);
+    QTest::newRow("disabled") << selected << false << QColor(0, 0, 203);
 }
 
 // In place of a check mark, and 15 by 15 whatever its own size.
 void tst_StandardWidgets::menuIcons()
 {
-    QFETCH(int, state);
+    QFETCH(QStyle::State, state);
     QFETCH(bool, checked);
     QFETCH(QColor, expected);
-    auto option = optionFor<QStyleOptionMenuItem>(QRect(0, 10, 100, 20), static_cast<QStyle::State>(state));
+    auto option = optionFor<QStyleOptionMenuItem>(QRect(0, 10, 100, 20), state);
     option.menuItemType = QStyleOptionMenuItem::Normal;
     option.checkType = QStyleOptionMenuItem::NonExclusive;
     option.checked = checked;
@@ -615,39 +570,39 @@ void tst_StandardWidgets::menuIcons()
 void tst_StandardWidgets::menuTexts_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("state");
+    QTest::addColumn<bool>("isDefault");
+    QTest::addColumn<bool>("isEnabled");
     QTest::addColumn<int>("iconWidth");
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<QRect>("label");
     QTest::addColumn<QRect>("shortcut");
-    const int on = QStyle::State_Enabled;
-    const int normal = QStyleOptionMenuItem::Normal;
     const QString both = QStringLiteral("Fill\tCtrl+F");
     const auto ltr = Qt::LeftToRight;
+    const auto rtl = Qt::RightToLeft;
     const QRect label(4 + 25, 12, 200 - 25 - 14, 16);
     const QRect shortcut(label.topRight(), QPoint(203, 29));
-    QTest::newRow("label") << QStringLiteral("&Fill") << normal << on << 0 << ltr << label << QRect();
-    QTest::newRow("shortcut") << both << normal << on << 0 << ltr << label << shortcut;
-    QTest::newRow("default") << both << int(QStyleOptionMenuItem::DefaultItem) << on << 0 << ltr << label << shortcut;
-    QTest::newRow("disabled") << both << normal << 0 << 0 << ltr << label << shortcut;
-    QTest::newRow("wide icons") << both << normal << on << 30 << ltr << label.adjusted(10, 0, 0, 0) << shortcut;
-    QTest::newRow("mirrored") << both << normal << on << 0 << Qt::RightToLeft << label.translated(14 - 25, 0)
-                              << QRect(4, 12, shortcut.width(), shortcut.height());
+    const QRect mirroredShortcut(QPoint(4, 12), shortcut.size());
+    QTest::newRow("label") << QStringLiteral("&Fill") << false << true << 0 << ltr << label << QRect();
+    QTest::newRow("shortcut") << both << false << true << 0 << ltr << label << shortcut;
+    QTest::newRow("default") << both << true << true << 0 << ltr << label << shortcut;
+    QTest::newRow("disabled") << both << false << false << 0 << ltr << label << shortcut;
+    QTest::newRow("wide icons") << both << false << true << 30 << ltr << label.adjusted(10, 0, 0, 0) << shortcut;
+    QTest::newRow("mirrored") << both << false << true << 0 << rtl << label.translated(14 - 25, 0) << mirroredShortcut;
 }
 
 void tst_StandardWidgets::menuTexts()
 {
     QFETCH(QString, text);
-    QFETCH(int, type);
-    QFETCH(int, state);
+    QFETCH(bool, isDefault);
+    QFETCH(bool, isEnabled);
     QFETCH(int, iconWidth);
     QFETCH(Qt::LayoutDirection, direction);
     QFETCH(QRect, label);
     QFETCH(QRect, shortcut);
-    auto option = optionFor<QStyleOptionMenuItem>(QRect(4, 10, 200, 20), static_cast<QStyle::State>(state));
+    const QStyle::State state = isEnabled ? QStyle::State_Enabled : QStyle::State_None;
+    auto option = optionFor<QStyleOptionMenuItem>(QRect(4, 10, 200, 20), state);
     option.text = text;
-    option.menuItemType = static_cast<QStyleOptionMenuItem::MenuItemType>(type);
+    option.menuItemType = isDefault ? QStyleOptionMenuItem::DefaultItem : QStyleOptionMenuItem::Normal;
     option.maxIconWidth = iconWidth;
     option.direction = direction;
     option.palette.setColor(QPalette::Text, blue);
@@ -657,12 +612,12 @@ void tst_StandardWidgets::menuTexts()
     QFont callersFont;
     callersFont.setPixelSize(9);
     QFont labelFont = UIGGetFont(12, -1, false);
-    labelFont.setBold(type == QStyleOptionMenuItem::DefaultItem);
+    labelFont.setBold(isDefault);
     const QImage wanted = picture(option, Qt::NoBrush, [&](QPainter *painter) {
         const auto draw = [&](const QFont &font, const QRect &rect, const QString &string) {
             painter->setFont(font);
             painter->setPen(red);
-            if (state == 0)
+            if (!isEnabled)
                 painter->drawText(rect.translated(1, 1), flags, string); // etched
             painter->setPen(blue);
             painter->drawText(rect, flags, string);
@@ -671,16 +626,12 @@ void tst_StandardWidgets::menuTexts()
         draw(labelFont, label, text.section(QLatin1Char('\t'), 0, 0));
     });
     QVERIFY(!Picture::isBlank(wanted));
-    const auto differs = [&] {
-        return Picture::difference(picture(option, Qt::NoBrush,
-                                           [&](QPainter *painter) {
-                                               painter->setFont(callersFont);
-                                               m_noting->drawControl(QStyle::CE_MenuItem, &option, painter, nullptr);
-                                               QCOMPARE(painter->font(), callersFont);
-                                           }),
-                                   wanted);
-    };
-    QCOMPARE(differs(), QString());
+    const QImage image = picture(option, Qt::NoBrush, [&](QPainter *painter) {
+        painter->setFont(callersFont);
+        m_noting->drawControl(QStyle::CE_MenuItem, &option, painter, nullptr);
+        QCOMPARE(painter->font(), callersFont);
+    });
+    QCOMPARE(Picture::difference(image, wanted), QString());
 }
 
 void tst_StandardWidgets::subMenuArrow()
@@ -701,34 +652,28 @@ void tst_StandardWidgets::subMenuArrow()
     QCOMPARE(m_noting->buttonText, blue);
 }
 
-void tst_StandardWidgets::headers_data()
-{
-    QTest::addColumn<int>("sorting");
-    QTest::addColumn<int>("arrow"); // -1 for none
-    QTest::newRow("not sorted") << static_cast<int>(QStyleOptionHeader::None) << -1;
-    QTest::newRow("up") << static_cast<int>(QStyleOptionHeader::SortUp)
-                        << static_cast<int>(QStyle::PE_IndicatorArrowUp);
-    QTest::newRow("down") << static_cast<int>(QStyleOptionHeader::SortDown)
-                          << static_cast<int>(QStyle::PE_IndicatorArrowDown);
-}
-
 // The mark is painted before the section, where the style wants it.
 void tst_StandardWidgets::headers()
 {
-    QFETCH(int, sorting);
-    QFETCH(int, arrow);
     auto option = optionFor<QStyleOptionHeader>(QRect(5, 3, 80, 20), QStyle::State_Enabled | QStyle::State_Horizontal);
-    option.sortIndicator = static_cast<QStyleOptionHeader::SortIndicator>(sorting);
-    control(QStyle::CE_Header, option);
+    option.sortIndicator = QStyleOptionHeader::SortUp;
     const QRect place = m_noting->subElementRect(QStyle::SE_HeaderArrow, &option, nullptr);
+    const QString header = note("control", QStyle::CE_Header, option.rect);
     const QString section = note("control", QStyle::CE_HeaderSection, option.rect);
-    QStringList first;
-    if (arrow >= 0)
-        first = QStringList{note("primitive", QStyle::PE_IndicatorHeaderArrow, place), note("primitive", arrow, place)};
-    QVERIFY2(m_noting->notes.contains(section), qPrintable(m_noting->notes.join(QLatin1Char('\n'))));
-    first.prepend(note("control", QStyle::CE_Header, option.rect));
-    QCOMPARE(m_noting->notes.mid(0, first.size()), first);
-    QVERIFY(m_noting->notes.indexOf(section) >= first.size());
+    const QString mark = note("primitive", QStyle::PE_IndicatorHeaderArrow, place);
+    const auto notesOf = [&](QStyleOptionHeader::SortIndicator sorting) {
+        option.sortIndicator = sorting;
+        m_noting->notes.clear();
+        control(QStyle::CE_Header, option);
+        return m_noting->notes;
+    };
+    const QStringList unsorted = notesOf(QStyleOptionHeader::None);
+    QVERIFY(unsorted.contains(section) && !unsorted.contains(mark));
+    const QStringList up{header, mark, note("primitive", QStyle::PE_IndicatorArrowUp, place)};
+    QCOMPARE(notesOf(QStyleOptionHeader::SortUp).mid(0, 3), up);
+    const QStringList down{header, mark, note("primitive", QStyle::PE_IndicatorArrowDown, place)};
+    QCOMPARE(notesOf(QStyleOptionHeader::SortDown).mid(0, 3), down);
+    QVERIFY(m_noting->notes.indexOf(section) >= 3);
 }
 
 void tst_StandardWidgets::headerSection()
@@ -856,39 +801,17 @@ void tst_StandardWidgets::scrollBar()
         QCOMPARE(cap(!enabled, end), QRect());
 }
 
-void tst_StandardWidgets::scrollBarPictures_data()
+void tst_StandardWidgets::scrollBarParts()
 {
-    QTest::addColumn<int>("part");
-    QTest::addColumn<QString>("key");
-    const auto row = [](const char *key, QStyle::SubControl part) {
-        QTest::newRow(key) << static_cast<int>(part) << QString::fromLatin1(key);
-    };
-    row("scrollbar_groove", QStyle::SC_ScrollBarGroove);
-    row("scrollbar_subline", QStyle::SC_ScrollBarSubLine);
-    row("scrollbar_addline", QStyle::SC_ScrollBarAddLine);
-    row("scrollbar_slider", QStyle::SC_ScrollBarSlider);
-}
-
-// Each part alone; looked up, and drawn where it is found, but never stored.
-void tst_StandardWidgets::scrollBarPictures()
-{
-    QFETCH(int, part);
-    QFETCH(QString, key);
-    const auto subControl = static_cast<QStyle::SubControl>(part);
     for (const auto orientation : {Qt::Vertical, Qt::Horizontal}) {
-        Bar bar(orientation, true);
-        bar.option.subControls = subControl;
-        const bool isGroove = subControl == QStyle::SC_ScrollBarGroove;
-        const QRect rect = isGroove ? bar.option.rect : bar.partOf(*m_noting, subControl);
-        const QImage image = complex(QStyle::CC_ScrollBar, bar.option);
-        QVERIFY(!Picture::isBlank(image) && !Picture::paintsOutside(image, rect));
-        const QSize keySize = subControl == QStyle::SC_ScrollBarAddLine ? QSize(16, 16) : rect.size();
-        const QString name = m_style->uniqueName(key, &bar.option, keySize) +
-                             QLatin1String(bar.vertical || isGroove ? "" : "-horizontal");
-        QPixmap found;
-        QVERIFY(!QPixmapCache::find(name, &found));
-        QPixmapCache::insert(name, pixmapOf(rect.size(), Qt::magenta));
-        QCOMPARE(boundsOf(complex(QStyle::CC_ScrollBar, bar.option), Qt::magenta), rect);
+        for (const auto part : {QStyle::SC_ScrollBarGroove, QStyle::SC_ScrollBarSubLine, QStyle::SC_ScrollBarAddLine,
+                                QStyle::SC_ScrollBarSlider}) {
+            Bar bar(orientation, true);
+            bar.option.subControls = part;
+            const QRect rect = part == QStyle::SC_ScrollBarGroove ? bar.option.rect : bar.partOf(*m_noting, part);
+            const QImage image = complex(QStyle::CC_ScrollBar, bar.option);
+            QVERIFY(!Picture::isBlank(image) && !Picture::paintsOutside(image, rect));
+        }
     }
 }
 
@@ -912,36 +835,31 @@ void tst_StandardWidgets::comboBox()
     QCOMPARE(boundsOf(image, colorOf("dropdown-menu-arrow")), QRect(3 + 2, 4 + 2, 16, 17));
 }
 
-void tst_StandardWidgets::comboBoxLabel_data()
-{
-    QTest::addColumn<bool>("rightToLeft");
-    QTest::addColumn<bool>("editable");
-    QTest::newRow("choosing") << false << false;
-    QTest::newRow("choosing, mirrored") << true << false;
-    QTest::newRow("editable") << false << true;
-}
-
 void tst_StandardWidgets::comboBoxLabel()
 {
-    QFETCH(bool, rightToLeft);
-    QFETCH(bool, editable);
     auto option = optionFor<QStyleOptionComboBox>(QRect(3, 4, 100, 21));
-    option.direction = rightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
-    option.editable = editable;
     option.currentText = QStringLiteral("Text");
     option.currentIcon = QIcon(pixmapOf(QSize(10, 10), blue));
     option.iconSize = QSize(10, 10);
     option.palette.setColor(QPalette::Base, red);
-    QApplication::setLayoutDirection(option.direction);
     const auto back = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
-    const QRect field = m_noting->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, nullptr);
-    const QRect icon(rightToLeft ? field.right() - 13 : field.left(), field.top(), 14, field.height());
-    const QImage image = control(QStyle::CE_ComboBoxLabel, option);
-    const QString iconNote = note("pixmap", Qt::AlignCenter, icon);
-    QVERIFY2(m_noting->notes.contains(iconNote), qPrintable(m_noting->notes.join(QLatin1Char('\n')) + iconNote));
-    const QRect text = field.translated(rightToLeft ? -14 : 14, 0);
-    QCOMPARE(m_noting->notes.contains(note("Text", Qt::AlignLeft | Qt::AlignVCenter, text)), !editable);
-    QCOMPARE(boundsOf(image, red), editable ? icon : QRect()); // the ground of the icon
+    for (const bool editable : {false, true}) {
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QApplication::setLayoutDirection(direction);
+            option.direction = direction;
+            option.editable = editable;
+            const bool mirrored = direction == Qt::RightToLeft;
+            const QRect field = m_noting->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField);
+            const QRect icon(mirrored ? field.right() - 13 : field.left(), field.top(), 14, field.height());
+            const QRect text = field.translated(mirrored ? -14 : 14, 0);
+            m_noting->notes.clear();
+            const QImage image = control(QStyle::CE_ComboBoxLabel, option);
+            QVERIFY2(m_noting->notes.contains(note("pixmap", Qt::AlignCenter, icon)),
+                     qPrintable(m_noting->notes.join(QLatin1Char('\n'))));
+            QCOMPARE(m_noting->notes.contains(note("Text", Qt::AlignLeft | Qt::AlignVCenter, text)), !editable);
+            QCOMPARE(boundsOf(image, red), editable ? icon : QRect()); // the ground of the icon
+        }
+    }
 }
 
 // The square of both buttons. Letters with capitals have the darker column at either side.

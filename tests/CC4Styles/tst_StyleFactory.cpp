@@ -74,7 +74,6 @@ private Q_SLOTS:
     void oneObjectForAllAskers();
     void blueStyleBecomesTheApplications();
     void headerStyleDoesNot();
-    void unknownKindsGiveNothing_data();
     void unknownKindsGiveNothing();
     void buttonsShareOneStyle();
     void survivesAnApplicationThatChangesItsStyle();
@@ -138,41 +137,35 @@ void tst_StyleFactory::headerStyleDoesNot()
     CC4StyleFactory::releaseStyle(mainStyle);
 }
 
-void tst_StyleFactory::unknownKindsGiveNothing_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::newRow("three") << 3;
-    QTest::newRow("negative") << -1;
-}
-
 void tst_StyleFactory::unknownKindsGiveNothing()
 {
-    QFETCH(int, kind);
-    const CC4StyleFactory::CC4Styles unknown{QFlag(kind)};
-    QStyle *style = CC4StyleFactory::getStyle(mainStyle);
-    QVERIFY(CC4StyleFactory::getStyle(unknown) == nullptr);
-    QCOMPARE(QApplication::style(), style);
-    CC4StyleFactory::releaseStyle(unknown);
-    QCOMPARE(CC4StyleFactory::getStyle(mainStyle), style); // no count was touched
-    CC4StyleFactory::releaseStyle(mainStyle);
-    CC4StyleFactory::releaseStyle(mainStyle);
+    for (const int kind : {3, -1}) {
+        const CC4StyleFactory::CC4Styles unknown{QFlag(kind)};
+        QStyle *style = CC4StyleFactory::getStyle(mainStyle);
+        QVERIFY(CC4StyleFactory::getStyle(unknown) == nullptr);
+        QCOMPARE(QApplication::style(), style);
+        CC4StyleFactory::releaseStyle(unknown);
+        QCOMPARE(CC4StyleFactory::getStyle(mainStyle), style); // no count was touched
+        CC4StyleFactory::releaseStyle(mainStyle);
+        CC4StyleFactory::releaseStyle(mainStyle);
+    }
 }
 
 void tst_StyleFactory::buttonsShareOneStyle()
 {
-    std::vector<std::unique_ptr<CButtonEx>> buttons;
-    buttons.reserve(100);
-    for (int i = 0; i < 100; ++i)
-        buttons.push_back(std::make_unique<CButtonEx>());
+    std::unique_ptr<CButtonEx> buttons[3];
+    for (auto &button : buttons)
+        button = std::make_unique<CButtonEx>();
     QStyle *style = QApplication::style();
     for (const auto &button : buttons)
         QCOMPARE(button->style(), style);
     QCOMPARE(QApplication::instance()->findChildren<CCommonControlStyle *>().size(), 1);
 
-    buttons.resize(1);
+    buttons[0].reset();
+    buttons[1].reset();
     QCOMPARE(CC4StyleFactory::getStyle(mainStyle), style); // still shared with the last button
     CC4StyleFactory::releaseStyle(mainStyle);
-    buttons.clear();
+    buttons[2].reset();
     QVERIFY(CC4StyleFactory::getStyle(mainStyle) != style); // forgotten with the last reference
     CC4StyleFactory::releaseStyle(mainStyle);
 }

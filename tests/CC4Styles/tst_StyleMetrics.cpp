@@ -71,22 +71,18 @@ class tst_StyleMetrics : public HouseTest
 
 private Q_SLOTS:
     void initTestCase();
-    void metricsAndHints();
-    void sizes_data();
+    void metricsOnTopOfTheBase();
+    void gridLinesAreOpaque();
     void sizes();
-    void visualAlignment_data();
     void visualAlignment();
     void spinBoxLayout_data();
     void spinBoxLayout();
     void comboBoxAndScrollBarLayout();
-    void longToolTipsWrap_data();
     void longToolTipsWrap();
-    void toolTipsAreShapedEachTime_data();
     void toolTipsAreShapedEachTime();
     void longToolTipsStayInSight_data();
     void longToolTipsStayInSight();
-    void buttonColors_data();
-    void buttonColors();
+    void buttonColorsAreThoseOfTheLookThatIsPolished();
     void polishing();
 
 private:
@@ -99,63 +95,35 @@ void tst_StyleMetrics::initTestCase()
     QVERIFY(m_style != nullptr);
 }
 
-void tst_StyleMetrics::metricsAndHints()
+// What the base has is enough where it is more.
+void tst_StyleMetrics::metricsOnTopOfTheBase()
 {
-    const struct
-    {
-        QStyle::PixelMetric metric;
-        int answer;
-    } metrics[] = {{QStyle::PM_ComboBoxFrameWidth, 8},
-                   {QStyle::PM_TabBarTabHSpace, 20},
-                   {QStyle::PM_TabBarTabVSpace, 5},
-                   {QStyle::PM_TabBarBaseHeight, 10},
-                   {QStyle::PM_SplitterWidth, 9},
-                   {QStyle::PM_IndicatorWidth, 16},
-                   {QStyle::PM_IndicatorHeight, 16},
-                   {QStyle::PM_ExclusiveIndicatorWidth, 18},
-                   {QStyle::PM_ExclusiveIndicatorHeight, 18},
-                   {QStyle::PM_ListViewIconSize, 90}};
-    for (const auto &entry : metrics)
-        QCOMPARE(m_style->pixelMetric(entry.metric), entry.answer);
     const QStyle *base = m_style->baseStyle();
     QCOMPARE(m_style->pixelMetric(QStyle::PM_ScrollBarExtent),
              std::max(21, base->pixelMetric(QStyle::PM_ScrollBarExtent) + 4));
     QCOMPARE(m_style->pixelMetric(QStyle::PM_MenuPanelWidth),
              std::max(2, base->pixelMetric(QStyle::PM_MenuPanelWidth)));
-    const struct
-    {
-        QStyle::StyleHint hint;
-        int answer;
-    } hints[] = {{QStyle::SH_EtchDisabledText, 1},
-                 {QStyle::SH_DitherDisabledText, 0},
-                 {QStyle::SH_Table_GridLineColor, static_cast<int>(0xFFEEEEFF)}, // opaque
-                 {QStyle::SH_UnderlineShortcut, 1},
-                 {QStyle::SH_ItemView_ShowDecorationSelected, 1},
-                 {QStyle::SH_ToolTipLabel_Opacity, 255}};
-    for (const auto &entry : hints)
-        QCOMPARE(m_style->styleHint(entry.hint), entry.answer);
 }
 
-void tst_StyleMetrics::sizes_data()
+void tst_StyleMetrics::gridLinesAreOpaque()
 {
-    QTest::addColumn<int>("ticks");
-    QTest::addColumn<int>("thickness");
-    QTest::newRow("no tick marks") << static_cast<int>(QSlider::NoTicks) << 20;
-    QTest::newRow("on one side") << static_cast<int>(QSlider::TicksBelow) << 28;
-    QTest::newRow("on both sides") << static_cast<int>(QSlider::TicksBothSides) << 36;
+    QCOMPARE(m_style->styleHint(QStyle::SH_Table_GridLineColor), static_cast<int>(0xFFEEEEFF));
 }
 
 void tst_StyleMetrics::sizes()
 {
-    QFETCH(int, ticks);
-    QFETCH(int, thickness);
     auto slider = optionFor<QStyleOptionSlider>(QRect());
-    slider.tickPosition = static_cast<QSlider::TickPosition>(ticks);
-    slider.orientation = Qt::Horizontal;
-    QCOMPARE(m_style->sizeFromContents(QStyle::CT_Slider, &slider, QSize(84, 1), nullptr).height(), thickness);
-    QCOMPARE(m_style->sizeFromContents(QStyle::CT_Slider, &slider, QSize(84, 90), nullptr).height() >= 90, true);
-    slider.orientation = Qt::Vertical;
-    QCOMPARE(m_style->sizeFromContents(QStyle::CT_Slider, &slider, QSize(1, 84), nullptr).width(), thickness);
+    for (const auto ticks : {QSlider::NoTicks, QSlider::TicksBelow, QSlider::TicksBothSides}) {
+        slider.tickPosition = ticks;
+        const int rowsOfTicks = ticks == QSlider::NoTicks ? 0 : ticks == QSlider::TicksBothSides ? 2 : 1;
+        const auto sizeOf = [&](Qt::Orientation orientation, const QSize &contents) {
+            slider.orientation = orientation;
+            return m_style->sizeFromContents(QStyle::CT_Slider, &slider, contents, nullptr);
+        };
+        QCOMPARE(sizeOf(Qt::Horizontal, QSize(84, 1)).height(), 20 + 8 * rowsOfTicks);
+        QCOMPARE(sizeOf(Qt::Vertical, QSize(1, 84)).width(), 20 + 8 * rowsOfTicks);
+        QVERIFY(sizeOf(Qt::Horizontal, QSize(84, 90)).height() >= 90);
+    }
 
     const auto comboBox = optionFor<QStyleOptionComboBox>(QRect());
     for (const int height : {10, 40})
@@ -171,56 +139,45 @@ void tst_StyleMetrics::sizes()
     QVERIFY(spinBoxHeight(40) >= 44);
 }
 
-void tst_StyleMetrics::visualAlignment_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<Qt::Alignment>("given");
-    QTest::addColumn<Qt::Alignment>("expected");
-    const auto row = [](const char *name, Qt::LayoutDirection direction, Qt::Alignment given, Qt::Alignment expected) {
-        QTest::newRow(name) << direction << given << expected;
-    };
-    row("none", Qt::LeftToRight, Qt::AlignVCenter, Qt::AlignVCenter | Qt::AlignLeft | Qt::AlignAbsolute);
-    row("none, mirrored", Qt::RightToLeft, Qt::AlignTop, Qt::AlignTop | Qt::AlignRight | Qt::AlignAbsolute);
-    row("right, mirrored", Qt::RightToLeft, Qt::AlignRight, Qt::AlignLeft | Qt::AlignAbsolute);
-    row("absolute", Qt::RightToLeft, Qt::AlignLeft | Qt::AlignAbsolute, Qt::AlignLeft | Qt::AlignAbsolute);
-    row("centre", Qt::RightToLeft, Qt::AlignHCenter, Qt::AlignHCenter);
-    row("justify", Qt::RightToLeft, Qt::AlignJustify, Qt::AlignJustify);
-}
-
 void tst_StyleMetrics::visualAlignment()
 {
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(Qt::Alignment, given);
-    QTEST(m_style->visualAlignment(direction, given), "expected");
+    constexpr auto ltr = Qt::LeftToRight;
+    constexpr auto rtl = Qt::RightToLeft;
+    const Qt::Alignment left = Qt::AlignLeft | Qt::AlignAbsolute;
+    const Qt::Alignment right = Qt::AlignRight | Qt::AlignAbsolute;
+    QCOMPARE(m_style->visualAlignment(ltr, Qt::AlignVCenter), left | Qt::AlignVCenter);
+    QCOMPARE(m_style->visualAlignment(rtl, Qt::AlignTop), right | Qt::AlignTop);
+    QCOMPARE(m_style->visualAlignment(rtl, Qt::AlignRight), left);
+    QCOMPARE(m_style->visualAlignment(rtl, left), left);
+    for (const auto either : {Qt::AlignHCenter, Qt::AlignJustify})
+        QCOMPARE(m_style->visualAlignment(rtl, either), Qt::Alignment(either));
 }
 
 void tst_StyleMetrics::spinBoxLayout_data()
 {
-    QTest::addColumn<int>("subControl");
-    QTest::addColumn<bool>("rightToLeft");
+    QTest::addColumn<QStyle::SubControl>("subControl");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<QRect>("expected");
+    const auto ltr = Qt::LeftToRight;
+    const auto rtl = Qt::RightToLeft;
     const int f = QApplication::style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
-    const auto row = [](const char *name, QStyle::SubControl subControl, bool rightToLeft, const QRect &expected) {
-        QTest::newRow(name) << static_cast<int>(subControl) << rightToLeft << expected;
-    };
-    row("up", QStyle::SC_SpinBoxUp, false, QRect(109 - 18, 5 + 2, 16, 8));
-    row("down", QStyle::SC_SpinBoxDown, false, QRect(109 - 18, 10, 16, 8)); // the top does not count
-    row("up, mirrored", QStyle::SC_SpinBoxUp, true, QRect(13, 5 + 2, 16, 8));
-    row("down, mirrored", QStyle::SC_SpinBoxDown, true, QRect(13, 10, 16, 8));
-    row("field", QStyle::SC_SpinBoxEditField, false, QRect(10 + f, 5 + f, 100 - 18 - 2 * f, 20 - 2 * f));
-    row("frame", QStyle::SC_SpinBoxFrame, false, QRect());
-    row("frame, mirrored", QStyle::SC_SpinBoxFrame, true, QRect());
+    const QRect field(10 + f, 5 + f, 100 - 18 - 2 * f, 20 - 2 * f);
+    QTest::newRow("up") << QStyle::SC_SpinBoxUp << ltr << QRect(109 - 18, 5 + 2, 16, 8);
+    QTest::newRow("down") << QStyle::SC_SpinBoxDown << ltr << QRect(109 - 18, 10, 16, 8); // the top does not count
+    QTest::newRow("up, mirrored") << QStyle::SC_SpinBoxUp << rtl << QRect(13, 5 + 2, 16, 8);
+    QTest::newRow("down, mirrored") << QStyle::SC_SpinBoxDown << rtl << QRect(13, 10, 16, 8);
+    QTest::newRow("field") << QStyle::SC_SpinBoxEditField << ltr << field;
+    QTest::newRow("frame") << QStyle::SC_SpinBoxFrame << ltr << QRect();
+    QTest::newRow("frame, mirrored") << QStyle::SC_SpinBoxFrame << rtl << QRect();
 }
 
 void tst_StyleMetrics::spinBoxLayout()
 {
-    QFETCH(int, subControl);
-    QFETCH(bool, rightToLeft);
-    QFETCH(QRect, expected);
+    QFETCH(QStyle::SubControl, subControl);
+    QFETCH(Qt::LayoutDirection, direction);
     auto option = optionFor<QStyleOptionSpinBox>(QRect(10, 5, 100, 20));
-    option.direction = rightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
-    QCOMPARE(m_style->subControlRect(QStyle::CC_SpinBox, &option, static_cast<QStyle::SubControl>(subControl)),
-             expected);
+    option.direction = direction;
+    QTEST(m_style->subControlRect(QStyle::CC_SpinBox, &option, subControl), "expected");
     const QStyleOptionComplex wrong;
     QCOMPARE(m_style->subControlRect(QStyle::CC_SpinBox, &wrong, QStyle::SC_SpinBoxUp), QRect());
 }
@@ -254,63 +211,48 @@ void tst_StyleMetrics::comboBoxAndScrollBarLayout()
     }
 }
 
-void tst_StyleMetrics::longToolTipsWrap_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("wraps");
-    QTest::newRow("400") << 400 << false;
-    QTest::newRow("401") << 401 << true;
-}
-
 void tst_StyleMetrics::longToolTipsWrap()
 {
-    QFETCH(int, width);
-    QFETCH(bool, wraps);
     const QFont font = UIGGetTooltipFont(11, 53, false);
-    const QString text = textOfWidth(QFontMetrics(font), width);
-    QVERIFY(!text.isEmpty());
-    QLabel label(QStringLiteral("  ") + text + QLatin1Char(' ')); // only the trimmed text counts
-    QCOMPARE(m_style->styleHint(QStyle::SH_ToolTipLabel_Opacity, nullptr, &label), 255);
-    QCOMPARE(label.wordWrap(), wraps);
-    QCOMPARE(label.minimumWidth() == 400 && label.maximumWidth() == 400, wraps);
-    const QSizePolicy::Policy across = wraps ? QSizePolicy::Fixed : QSizePolicy::Expanding;
-    QCOMPARE(label.sizePolicy(), QSizePolicy(across, QSizePolicy::Expanding));
-    QCOMPARE(label.contentsMargins(), QMargins(7, 0, 7, 7));
-    QCOMPARE(label.alignment(), Qt::AlignLeft | Qt::AlignTop);
-    QCOMPARE(label.minimumHeight(), 26);
-    QVERIFY(label.font().pixelSize() == 11 && label.font().weight() == font.weight());
-}
-
-void tst_StyleMetrics::toolTipsAreShapedEachTime_data()
-{
-    QTest::addColumn<QString>("sheet");
-    QTest::newRow("house style") << QString();
-    QTest::newRow("under a style sheet") << QStringLiteral("QLineEdit { color: blue }");
+    for (const int width : {400, 401}) {
+        const bool wraps = width > 400;
+        const QString text = textOfWidth(QFontMetrics(font), width);
+        QVERIFY(!text.isEmpty());
+        QLabel label(QStringLiteral("  ") + text + QLatin1Char(' ')); // only the trimmed text counts
+        QCOMPARE(m_style->styleHint(QStyle::SH_ToolTipLabel_Opacity, nullptr, &label), 255);
+        QCOMPARE(label.wordWrap(), wraps);
+        QCOMPARE(label.minimumWidth() == 400 && label.maximumWidth() == 400, wraps);
+        QCOMPARE(label.contentsMargins(), QMargins(7, 0, 7, 7));
+        QCOMPARE(label.alignment(), Qt::AlignLeft | Qt::AlignTop);
+        QCOMPARE(label.minimumHeight(), 26);
+        QVERIFY(label.font().pixelSize() == 11 && label.font().weight() == font.weight());
+    }
 }
 
 void tst_StyleMetrics::toolTipsAreShapedEachTime()
 {
-    QFETCH(QString, sheet);
-    setSheet(sheet);
-    const auto withoutSheet = qScopeGuard([] { setSheet(QString()); });
     QWidget window;
     window.resize(300, 200);
     window.show();
     const QString longText = QStringLiteral("A tip of many words. ").repeated(20).trimmed();
     const QString shortText = QStringLiteral("Short");
-    for (const QString &text : {shortText, longText, shortText, longText}) {
-        QToolTip::showText(window.mapToGlobal(QPoint(10, 10)), text, &window);
-        QLabel *tip = toolTip();
-        QVERIFY(tip != nullptr);
-        QCOMPARE(tip->text(), text);
-        QCOMPARE(tip->font().pixelSize(), 11);
-        QVERIFY(tip->height() >= 26);
-        const bool isLong = text == longText;
-        QCOMPARE(tip->wordWrap(), isLong);
-        QVERIFY2(isLong ? tip->width() == 400 : tip->width() < 200, qPrintable(QString::number(tip->width())));
-        QVERIFY(tip->height() >= tip->heightForWidth(tip->width())); // nothing of the text is cut
+    for (const char *sheet : {"", "QLineEdit { color: blue }"}) {
+        setSheet(QLatin1String(sheet));
+        const auto withoutSheet = qScopeGuard([] { setSheet(QString()); });
+        for (const QString &text : {shortText, longText, shortText, longText}) {
+            QToolTip::showText(window.mapToGlobal(QPoint(10, 10)), text, &window);
+            const QLabel *tip = toolTip();
+            QVERIFY(tip != nullptr);
+            QCOMPARE(tip->text(), text);
+            QCOMPARE(tip->font().pixelSize(), 11);
+            QVERIFY(tip->height() >= 26);
+            const bool isLong = text == longText;
+            QCOMPARE(tip->wordWrap(), isLong);
+            QVERIFY2(isLong ? tip->width() == 400 : tip->width() < 200, qPrintable(QString::number(tip->width())));
+            QVERIFY(tip->height() >= tip->heightForWidth(tip->width())); // nothing of the text is cut
+        }
+        QToolTip::hideText();
     }
-    QToolTip::hideText();
 }
 
 void tst_StyleMetrics::longToolTipsStayInSight_data()
@@ -342,43 +284,23 @@ void tst_StyleMetrics::longToolTipsStayInSight()
     }
 }
 
-void tst_StyleMetrics::buttonColors_data()
+// Which look has which, the painters' test tells; a glowing button's label is white only when it is painted.
+void tst_StyleMetrics::buttonColorsAreThoseOfTheLookThatIsPolished()
 {
-    QTest::addColumn<int>("look");
-    QTest::addColumn<QColor>("enabled"); // invalid where the button keeps its own
-    QTest::addColumn<QColor>("disabled");
-    const QColor own;
     const QColor text(1, 2, 3, 4);
-    const auto row = [](const char *name, CButtonEx::CButtonStyles look, const QColor &enabled,
-                        const QColor &disabled) {
-        QTest::newRow(name) << static_cast<int>(look) << enabled << disabled;
-    };
-    row("normal", CButtonEx::BSEX_Normal, QColor(0, 0, 0, 200), QColor(0, 0, 0, 60));
-    row("transparent", CButtonEx::BSEX_Transparent, text, text);
-    row("glowing", CButtonEx::BSEX_Glowing, text, text);
-    row("active", CButtonEx::BSEX_Active, Qt::white, grey(0x80));
-    row("tray", CButtonEx::BSEX_Tray, Qt::white, grey(0x80));
-    row("tertiary", CButtonEx::BSEX_Tertiary, own, own);
-}
-
-void tst_StyleMetrics::buttonColors()
-{
-    QFETCH(int, look);
-    QFETCH(QColor, enabled);
-    QFETCH(QColor, disabled);
     CButtonEx button;
     QPalette own = button.palette();
     own.setColor(QPalette::ButtonText, Qt::cyan);
     button.setPalette(own);
-    button.setTextColor(QColor(1, 2, 3, 4));
-    button.setButtonStyle(static_cast<CButtonEx::CButtonStyles>(look));
+    button.setTextColor(text);
+    button.setButtonStyle(CButtonEx::BSEX_Tertiary);
     m_style->polish(&button);
-    const auto color = [&button](QPalette::ColorGroup group) {
-        return button.palette().color(group, QPalette::ButtonText);
-    };
-    for (const auto group : {QPalette::Active, QPalette::Inactive})
-        QCOMPARE(color(group), enabled.isValid() ? enabled : QColor(Qt::cyan));
-    QCOMPARE(color(QPalette::Disabled), disabled.isValid() ? disabled : QColor(Qt::cyan));
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        QCOMPARE(button.palette().color(group, QPalette::ButtonText), QColor(Qt::cyan));
+    button.setButtonStyle(CButtonEx::BSEX_Glowing);
+    m_style->polish(&button);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        QCOMPARE(button.palette().color(group, QPalette::ButtonText), text);
     const QPalette polished = button.palette();
     button.setButtonStyle(CButtonEx::BSEX_Normal);
     button.setButtonStyle(CButtonEx::BSEX_Active);

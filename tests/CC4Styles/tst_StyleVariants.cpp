@@ -1,4 +1,5 @@
 // The scroll bars of the blue and of the drop-down style, and the small header style.
+#include "TestLook.h"
 #include "helpers/HouseTest.h"
 
 #include "CC4Styles/BlueScrollBarStyle.h"
@@ -6,11 +7,9 @@
 #include "CC4Styles/TBWStyle.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QHeaderView>
 #include <QPixmapCache>
 #include <QScrollBar>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -91,13 +90,9 @@ class tst_StyleVariants : public HouseTest
 {
     Q_OBJECT
 
-public:
-    tst_StyleVariants() { qputenv("ZEL_GRAPHICS_DIR", m_graphics.path().toLocal8Bit()); }
-
 private Q_SLOTS:
     void initTestCase();
     void blueScrollBar();
-    void blueScrollBarIsStored();
     void dropDownScrollBar();
     void dropDownCoversItsWidget();
     void mainStyleFindsDropDownPictures();
@@ -107,16 +102,13 @@ private Q_SLOTS:
     void headerArrow();
 
 private:
-    QTemporaryDir m_graphics;
+    const TestLook m_look;
 };
 
 void tst_StyleVariants::initTestCase()
 {
-    for (const Bitmap &bitmap : bitmaps) {
-        QImage image(bitmap.size, QImage::Format_ARGB32);
-        image.fill(bitmap.color);
-        QVERIFY(image.save(QDir(m_graphics.path()).filePath(QLatin1String(bitmap.name) + QLatin1String(".png"))));
-    }
+    for (const Bitmap &bitmap : bitmaps)
+        m_look.addBitmap(QLatin1String(bitmap.name), bitmap.size, QColor(bitmap.color));
 }
 
 void tst_StyleVariants::blueScrollBar()
@@ -124,55 +116,32 @@ void tst_StyleVariants::blueScrollBar()
     const CBlueScrollBarStyle style;
     Bar vertical(Qt::Vertical);
     QImage image = vertical.paintedBy(style);
-    QCOMPARE(Picture::colorAt(image, 0, 30), from("BlueCenterScrollBarVGrooveBlt"));
-    QCOMPARE(Picture::colorAt(image, 20, 30), from("BlueCenterScrollBarVGrooveBlt"));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollBarVGrooveBlt"), QRect(0, 0, 21, 200));
     QCOMPARE(Picture::colorAt(image, 21, 30), QColor(Qt::yellow).name(QColor::HexArgb));
     QCOMPARE(boundsOf(image, "BlueCenterScrollbarArrowUp"), QRect(7, 7, 4, 4));
-    QCOMPARE(Picture::colorAt(image, 6, 7), from("BlueCenterScrollBarVGrooveBlt"));
-    QCOMPARE(Picture::colorAt(image, 7, 199 - 8), from("BlueCenterScrollbarArrowDown"));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollbarArrowDown").topLeft(), QPoint(7, 199 - 8));
     QRect slider = vertical.partOf(style, QStyle::SC_ScrollBarSlider);
-    QCOMPARE(Picture::colorAt(image, 0, slider.top()), from("BlueCenterScrollBarVGrooveBlt")); // the body starts below
-    QCOMPARE(Picture::colorAt(image, 0, slider.top() + 1), from("BlueCenterVSliderBlit"));
-    QCOMPARE(Picture::colorAt(image, 19, slider.bottom() - 1), from("BlueCenterVSliderBlit"));
-    QCOMPARE(Picture::colorAt(image, 2, slider.top()), from("BlueCenterScrollBarTop"));
-    QCOMPARE(Picture::colorAt(image, 9, slider.bottom() - 3), from("BlueCenterScrollBarBottom"));
+    QCOMPARE(boundsOf(image, "BlueCenterVSliderBlit"), QRect(0, slider.top() + 1, 20, slider.height() - 2));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollBarTop").topLeft(), QPoint(2, slider.top()));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollBarBottom").bottomRight(), QPoint(9, slider.bottom()));
 
     vertical.option.state &= ~QStyle::State_Enabled;
     QCOMPARE(vertical.paintedBy(style), image);
 
     Bar horizontal(Qt::Horizontal);
     image = horizontal.paintedBy(style);
-    QCOMPARE(Picture::colorAt(image, 30, 20), from("BlueCenterScrollBarHGrooveBlt"));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollBarHGrooveBlt"), QRect(0, 0, 200, 21));
     QCOMPARE(boundsOf(image, "BlueCenterScrollbarArrowLeft"), QRect(7, 7, 4, 4));
     QCOMPARE(boundsOf(image, "BlueCenterScrollbarArrowRight"), QRect(199 - 8, 7, 4, 4));
     slider = horizontal.partOf(style, QStyle::SC_ScrollBarSlider);
-    QCOMPARE(Picture::colorAt(image, slider.left() + 1, 19), from("BlueCenterHSliderBlit"));
-    QCOMPARE(Picture::colorAt(image, slider.left(), 2), from("BlueCenterScrollBarLeft"));
-    QCOMPARE(Picture::colorAt(image, slider.right() - 3, 9), from("BlueCenterScrollBarRight"));
+    QCOMPARE(boundsOf(image, "BlueCenterHSliderBlit"), QRect(slider.left() + 1, 0, slider.width() - 2, 20));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollBarLeft").topLeft(), QPoint(slider.left(), 2));
+    QCOMPARE(boundsOf(image, "BlueCenterScrollBarRight").bottomRight(), QPoint(slider.right(), 9));
 
     horizontal.option.direction = Qt::RightToLeft; // each arrow still points outward
     image = horizontal.paintedBy(style);
     QVERIFY(boundsOf(image, "BlueCenterScrollbarArrowLeft").left() < 100);
     QVERIFY(boundsOf(image, "BlueCenterScrollbarArrowRight").left() > 100);
-}
-
-void tst_StyleVariants::blueScrollBarIsStored()
-{
-    const CBlueScrollBarStyle style;
-    const Bar bar(Qt::Horizontal);
-    QPixmapCache::clear();
-    bar.paintedBy(style);
-    const QStyleOption *option = &bar.option;
-    const auto key = [&](const char *element, const QSize &size, const char *suffix) {
-        return style.uniqueName(QLatin1String(element), option, size) + QLatin1String(suffix);
-    };
-    const QSize slider = bar.partOf(style, QStyle::SC_ScrollBarSlider).size();
-    const QSize back = bar.partOf(style, QStyle::SC_ScrollBarSubLine).size();
-    QPixmap found;
-    QVERIFY(QPixmapCache::find(key("blue_scrollbar_groove", bar.option.rect.size(), ""), &found));
-    QVERIFY(QPixmapCache::find(key("blue_scrollbar_subline", back, "-horizontal"), &found));
-    QVERIFY(QPixmapCache::find(key("blue_scrollbar_addline", QSize(16, 16), "-horizontal"), &found));
-    QVERIFY(QPixmapCache::find(key("blue_scrollbar_slider", slider, "-horizontal"), &found));
 }
 
 void tst_StyleVariants::dropDownScrollBar()
@@ -183,18 +152,16 @@ void tst_StyleVariants::dropDownScrollBar()
     // Everything keeps three pixels off the left edge, the groove one more.
     QCOMPARE(Picture::colorAt(image, 3, 30), QColor(Qt::yellow).name(QColor::HexArgb));
     QCOMPARE(Picture::colorAt(image, 4, 30), from("ddScrollbarSliderGrayBlit"));
-    const QRect back = vertical.partOf(style, QStyle::SC_ScrollBarSubLine).adjusted(3, 0, 0, 0);
-    const QPoint arrow = back.topLeft() + QRect(QPoint(0, 0), back.size()).center() - QPoint(1, 2);
-    QCOMPARE(Picture::colorAt(image, arrow.x(), arrow.y()), from("ddScrollbarArrowUp"));
-    QCOMPARE(Picture::colorAt(image, arrow.x() - 1, arrow.y()), from("ddScrollbarSliderGrayBlit"));
-    QCOMPARE(Picture::colorAt(image, arrow.x() + 4, arrow.y() + 4), from("ddScrollbarArrowUp"));
+    const auto arrowIn = [&](QStyle::SubControl part) {
+        const QRect rect = vertical.partOf(style, part).adjusted(3, 0, 0, 0);
+        return QRect(rect.topLeft() + QRect(QPoint(0, 0), rect.size()).center() - QPoint(1, 2), QSize(5, 5));
+    };
+    QCOMPARE(boundsOf(image, "ddScrollbarArrowUp"), arrowIn(QStyle::SC_ScrollBarSubLine));
+    QCOMPARE(boundsOf(image, "ddScrollbarArrowDown"), arrowIn(QStyle::SC_ScrollBarAddLine));
     // The slider's picture is 22 wide, has its bitmaps one pixel in, and is squeezed into 19.
     const QRect slider = vertical.partOf(style, QStyle::SC_ScrollBarSlider);
     QCOMPARE(boundsOf(image, "ddScrollbarSliderBlit").left(), 7);   // 3 + 3 + its own 1
     QCOMPARE(boundsOf(image, "ddScrollbarSliderBlit").width(), 14); // 16 of 22 in 19
-    const QRect forward = vertical.partOf(style, QStyle::SC_ScrollBarAddLine).adjusted(3, 0, 0, 0);
-    const QPoint down = forward.topLeft() + QRect(QPoint(0, 0), forward.size()).center() - QPoint(1, 2);
-    QCOMPARE(boundsOf(image, "ddScrollbarArrowDown"), QRect(down, QSize(5, 5)));
     QCOMPARE(Picture::colorAt(image, 8, slider.top()), from("ddScrollbarSliderTop"));
     QCOMPARE(Picture::colorAt(image, 8, slider.top() + 4), from("ddScrollbarSliderBlit"));
     QCOMPARE(Picture::colorAt(image, 8, slider.bottom() - 4), from("ddScrollbarSliderBlit"));
@@ -316,27 +283,25 @@ void tst_StyleVariants::headerArrow()
     const CTBWStyle style(nullptr);
     QStyleOptionHeader option;
     option.rect = QRect(40, 0, 20, 20); // its middle is (50, 10)
-    option.text = QStringLiteral("Name");
     option.palette.setColor(QPalette::ButtonText, Qt::black);
-    const auto paint = [&] {
+    const auto paint = [&](QStyleOptionHeader::SortIndicator sorting, const QString &text) {
+        option.sortIndicator = sorting;
+        option.text = text;
         return Picture::of(QSize(100, 20), [&](QPainter *painter) {
             style.drawPrimitive(QStyle::PE_IndicatorHeaderArrow, &option, painter, nullptr);
         });
     };
-    QVERIFY(Picture::isBlank(paint())); // not sorted
-    option.sortIndicator = QStyleOptionHeader::SortUp;
-    QImage image = paint();
-    QVERIFY(!Picture::paintsOutside(image, QRect(46, 8, 7, 4)));
-    QCOMPARE(image.pixelColor(46, 11), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(52, 11), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(49, 8), QColor(Qt::black));
-    option.sortIndicator = QStyleOptionHeader::SortDown;
-    image = paint();
-    QVERIFY(!Picture::paintsOutside(image, QRect(46, 8, 7, 4)));
-    QCOMPARE(image.pixelColor(46, 8), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(49, 11), QColor(Qt::black));
-    option.text.clear();
-    QVERIFY(Picture::isBlank(paint()));
+    const QString name = QStringLiteral("Name");
+    QVERIFY(Picture::isBlank(paint(QStyleOptionHeader::None, name)));
+    QVERIFY(Picture::isBlank(paint(QStyleOptionHeader::SortUp, QString())));
+    const QRect place(46, 8, 7, 4);
+    const QImage up = paint(QStyleOptionHeader::SortUp, name);
+    const QImage wanted = Picture::fromLetters("\n...#...\n..###..\n.#####.\n#######", {{'#', {Qt::black}}});
+    QVERIFY(!Picture::paintsOutside(up, place));
+    QCOMPARE(Picture::difference(up.copy(place), wanted), QString());
+    const QImage down = paint(QStyleOptionHeader::SortDown, name);
+    QVERIFY(!Picture::paintsOutside(down, place));
+    QCOMPARE(Picture::difference(down.copy(place), wanted.mirrored()), QString());
 }
 
 HOUSE_TEST_MAIN(tst_StyleVariants)

@@ -1,5 +1,6 @@
 // The frames of text boxes and spin boxes, pixel by pixel. Every key has a colour of its own here, so that no two can
 // be mistaken.
+#include "TestLook.h"
 #include "helpers/HouseTest.h"
 
 #include "CC4Styles/CommonControlStyle.h"
@@ -7,10 +8,7 @@
 #include "TextBoxEx/TextBoxEx.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QSpinBox>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -132,9 +130,6 @@ class tst_TextBoxPainters : public HouseTest
 {
     Q_OBJECT
 
-public:
-    tst_TextBoxPainters() { qputenv("ZEL_GRAPHICS_DIR", m_graphics.path().toLocal8Bit()); }
-
 private Q_SLOTS:
     void initTestCase();
     void normalFrameIsOneForAllStates();
@@ -142,7 +137,6 @@ private Q_SLOTS:
     void panels_data();
     void panels();
     void spinBoxFrame();
-    void wrongOptionOrWidgetPaintsNothing();
     void pixelsStayWhole();
     void smallAndMovedFramesStayInside();
     void crossedAndLongLines();
@@ -151,26 +145,17 @@ private:
     QImage panel(const QWidget *widget, const QSize &size) const;
     void drawBoth(QPainter *painter, const QStyleOption &option, const QWidget &box) const;
 
-    QTemporaryDir m_graphics;
+    const TestLook m_look;
     std::unique_ptr<CCommonControlStyle> m_style;
 };
 
 void tst_TextBoxPainters::initTestCase()
 {
-    QFile xml(QDir(m_graphics.path()).filePath(QStringLiteral("UIGraphics.xml")));
-    QVERIFY(xml.open(QIODevice::WriteOnly));
-    const QList<QPair<const char *, QColor>> colors = {
-        {"LE_BORDER", red},          {"LE_TOPBORDER1", green},   {"LE_BOTTOMBORDER1", blue},
-        {"LE_TOPBORDER2", yellow},   {"LE_BACKGROUND", white},   {"TB_TRANS_BORDER1", red},
-        {"TB_TRANS_BORDER2", green}, {"TB_TRANS_BORDER3", blue}, {"TB_TRANS_FILLRECT", yellow},
-        {"SPIN_BACKGROUND", green},  {"SPIN_BORDER", red}};
-    xml.write("<look>");
-    for (const auto &color : colors)
-        xml.write(QStringLiteral("<Color Name='UIGCLR_%1'>%2</Color>")
-                      .arg(QLatin1String(color.first), color.second.name().mid(1))
-                      .toLatin1());
-    xml.write("</look>");
-    xml.close();
+    m_look.setColors({{"LE_BORDER TB_TRANS_BORDER1 SPIN_BORDER", red},
+                      {"LE_TOPBORDER1 TB_TRANS_BORDER2 SPIN_BACKGROUND", green},
+                      {"LE_BOTTOMBORDER1 TB_TRANS_BORDER3", blue},
+                      {"LE_TOPBORDER2 TB_TRANS_FILLRECT", yellow},
+                      {"LE_BACKGROUND", white}});
     m_style = std::make_unique<CCommonControlStyle>();
 }
 
@@ -267,20 +252,6 @@ void tst_TextBoxPainters::spinBoxFrame()
     QCOMPARE(differenceTo({green}), QString());
     option.state = QStyle::State_None; // disabled
     QCOMPARE(differenceTo({green, faint(red, 10)}), QString());
-}
-
-void tst_TextBoxPainters::wrongOptionOrWidgetPaintsNothing()
-{
-    const CTextBoxEx box;
-    const QLineEdit plain;
-    QStyleOption option;
-    option.rect = QRect(0, 0, 30, 20);
-    const QImage image = Picture::of(option.rect.size(), [&](QPainter *painter) {
-        m_style->drawPrimitive(QStyle::PE_PanelLineEdit, &option, painter, &box);
-        m_style->drawPrimitive(QStyle::PE_FrameLineEdit, &option, painter, &box);
-        m_style->drawTransparentTextBox(&option, painter, &plain);
-    });
-    QVERIFY(Picture::isBlank(image));
 }
 
 void tst_TextBoxPainters::drawBoth(QPainter *painter, const QStyleOption &option, const QWidget &box) const

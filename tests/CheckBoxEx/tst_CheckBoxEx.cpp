@@ -45,67 +45,8 @@ QPair<int, int> inkOf(CLabelEx &label, QWidget &button)
     return ink;
 }
 
-} // namespace
-
-#define ROWS_FOR_BOTH                                                                                                  \
-    QTest::addColumn<bool>("isRadio");                                                                                 \
-    QTest::newRow("check box") << false;                                                                               \
-    QTest::newRow("radio button") << true;
-
-#define CHECK_BOTH(function)                                                                                           \
-    QFETCH(bool, isRadio);                                                                                             \
-    isRadio ? function<CRadioButtonEx>() : function<CCheckBoxEx>();
-
-class tst_CheckBoxEx : public HouseTest
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase() { m_style = new CCommonControlStyle; }
-    void cleanupTestCase() { delete m_style; }
-    void sizes_data() { ROWS_FOR_BOTH }
-    void sizes() { CHECK_BOTH(checkSizes) }
-    void lowRadioButton();
-    void labelToggles_data() { ROWS_FOR_BOTH }
-    void labelToggles() { CHECK_BOTH(checkLabelToggles) }
-    void boxAndKeysToggle_data() { ROWS_FOR_BOTH }
-    void boxAndKeysToggle() { CHECK_BOTH(checkBoxAndKeysToggle) }
-    void exclusiveButtonStaysChecked();
-    void labelWidth_data() { ROWS_FOR_BOTH }
-    void labelWidth() { CHECK_BOTH(checkLabelWidth) }
-    void palettes_data() { ROWS_FOR_BOTH }
-    void palettes() { CHECK_BOTH(checkPalettes) }
-    void withoutLabel_data() { ROWS_FOR_BOTH }
-    void withoutLabel() { CHECK_BOTH(checkWithoutLabel) }
-    void textStaysAtTheIndicator_data() { ROWS_FOR_BOTH }
-    void textStaysAtTheIndicator() { CHECK_BOTH(checkTextStaysAtTheIndicator) }
-    void accessible_data() { ROWS_FOR_BOTH }
-    void accessible() { CHECK_BOTH(checkAccessible) }
-    void radioButtonsAreTabStops();
-
-private:
-    template <class Button>
-    void checkSizes();
-    template <class Button>
-    void checkLabelToggles();
-    template <class Button>
-    void checkBoxAndKeysToggle();
-    template <class Button>
-    void checkLabelWidth();
-    template <class Button>
-    void checkPalettes();
-    template <class Button>
-    void checkWithoutLabel();
-    template <class Button>
-    void checkTextStaysAtTheIndicator();
-    template <class Button>
-    void checkAccessible();
-
-    CCommonControlStyle *m_style = nullptr;
-};
-
 template <class Button>
-void tst_CheckBoxEx::checkSizes()
+void checkSizes()
 {
     QWidget parent;
     parent.setFont(fontOf(13));
@@ -133,19 +74,8 @@ void tst_CheckBoxEx::checkSizes()
     QCOMPARE(withoutItsLabel.size(), size);
 }
 
-// As high as the text needs, even where the indicator needs more.
-void tst_CheckBoxEx::lowRadioButton()
-{
-    QWidget parent;
-    parent.setFont(fontOf(6));
-    CRadioButtonEx button(QStringLiteral("Matte"), &parent, 100);
-    button.setStyle(m_style);
-    QVERIFY(button.height() < static_cast<QRadioButton &>(button).sizeHint().height());
-    QVERIFY(button.height() == labelOf(button)->heightForWidth(100) && labelOf(button)->height() == button.height());
-}
-
 template <class Button>
-void tst_CheckBoxEx::checkLabelToggles()
+void checkLabelToggles()
 {
     QWidget parent;
     Button button(longText, &parent, 100);
@@ -169,12 +99,13 @@ void tst_CheckBoxEx::checkLabelToggles()
 }
 
 template <class Button>
-void tst_CheckBoxEx::checkBoxAndKeysToggle()
+void checkBoxAndKeysToggle()
 {
+    CCommonControlStyle style;
     QWidget window;
     Button button(longText, &window, 100);
     button.setAutoExclusive(false);
-    button.setStyle(m_style);
+    button.setStyle(&style);
     window.show();
     QApplication::setActiveWindow(&window);
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -189,6 +120,161 @@ void tst_CheckBoxEx::checkBoxAndKeysToggle()
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 5));
     QVERIFY(button.isChecked());
     QVERIFY(button.hasFocus()); // as after a click on a native text
+}
+
+template <class Button>
+void checkLabelWidth()
+{
+    Button button(QStringLiteral("Matte"), nullptr, 100);
+    CLabelEx &label = *labelOf(button);
+    button.setLabelFont(fontOf(20));
+    const int before = button.height();
+    QCOMPARE(label.font().pixelSize(), 20);
+    label.setText(longText);
+    QCOMPARE(button.height(), before);
+    button.setFixedLabelWidth(120);
+    const int wrapped = QFontMetrics(fontOf(20)).boundingRect(0, 0, 120, 120, Qt::TextWordWrap, longText).height();
+    const int extra = std::is_same<Button, CRadioButtonEx>::value ? 8 : 0;
+    QVERIFY(wrapped > 2 * before);
+    QCOMPARE(button.size(), QSize(160, wrapped + extra));
+    QCOMPARE(label.size(), QSize(120, wrapped + extra));
+    button.setFixedLabelWidth(-5);
+    QVERIFY(button.width() == 40 && label.width() == 0);
+    button.setFixedLabelWidth(QWIDGETSIZE_MAX);
+    QCOMPARE(label.maximumWidth(), QWIDGETSIZE_MAX - 40);
+}
+
+template <class Button>
+void checkPalettes()
+{
+    Button button(longText, nullptr, 100);
+    QPalette given;
+    given.setColor(QPalette::WindowText, Qt::red);
+    given.setColor(QPalette::Disabled, QPalette::WindowText, Qt::gray);
+    given.setColor(QPalette::Window, Qt::green);
+    given.setColor(QPalette::Base, Qt::magenta);
+    button.setLabelPalette(given);
+    for (const QWidget *widget : std::initializer_list<QWidget *>{&button, labelOf(button)}) {
+        const QPalette palette = widget->palette();
+        for (const auto role : {QPalette::WindowText, QPalette::ButtonText}) {
+            QCOMPARE(palette.color(QPalette::Active, role), QColor(Qt::red));
+            QCOMPARE(palette.color(QPalette::Inactive, role), QColor(Qt::red));
+            QCOMPARE(palette.color(QPalette::Disabled, role), QColor(Qt::gray));
+        }
+        for (const auto role : {QPalette::Window, QPalette::Button})
+            QCOMPARE(palette.color(role), QColor(Qt::green));
+        QVERIFY(palette.color(QPalette::Base) != QColor(Qt::magenta));
+    }
+}
+
+template <class Button>
+void checkWithoutLabel()
+{
+    QWidget parent;
+    QVERIFY(Button(&parent).text().isEmpty());
+    Button button(longText, &parent);
+    QVERIFY(button.text() == longText && button.hasMouseTracking() && labelOf(button) == nullptr);
+    const QFont font = button.font();
+    const QPalette palette = button.palette();
+    const QSize widest = button.maximumSize();
+    button.labelClicked(&button);
+    button.setFixedLabelWidth(10);
+    button.setLabelPalette(QPalette(Qt::red));
+    button.setLabelFont(fontOf(30));
+    QVERIFY(!button.isChecked() && button.font() == font && button.palette() == palette);
+    QCOMPARE(button.maximumSize(), widest);
+    button.setFixedHeight(33);
+    QCOMPARE(button.height(), 33);
+    QCOMPARE(QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name), longText);
+}
+
+// Of a text in either direction of writing, on a page in either direction.
+template <class Button>
+void checkTextStaysAtTheIndicator()
+{
+    CCommonControlStyle style;
+    for (const QString &text : {QStringLiteral("Matte"), QStringLiteral("מט")}) {
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QWidget parent;
+            parent.setLayoutDirection(Qt::LeftToRight);
+            Button button(text, &parent, 100);
+            button.setStyle(&style);
+            parent.setLayoutDirection(direction);
+            const QPair<int, int> ink = inkOf(*labelOf(button), button);
+            QVERIFY(ink.first < ink.second);
+            if (direction == Qt::LeftToRight)
+                QVERIFY2(ink.first >= 20 && ink.first < 25 && ink.second < 100, qPrintable(text));
+            else
+                QVERIFY2(ink.second < 120 && ink.second > 114 && ink.first > 40, qPrintable(text));
+        }
+    }
+}
+
+template <class Button>
+void checkAccessible()
+{
+    constexpr bool isRadio = std::is_same<Button, CRadioButtonEx>::value;
+    QWidget parent;
+    Button button(longText, &parent, 100);
+    button.setAutoExclusive(false);
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&button);
+    QCOMPARE(interface->text(QAccessible::Name), longText);
+    QCOMPARE(interface->role(), isRadio ? QAccessible::RadioButton : QAccessible::CheckBox);
+    QCOMPARE(interface->childCount(), 0);
+    QVERIFY(interface->state().checkable && interface->state().focusable && !interface->state().checked);
+    QAccessibleActionInterface *actions = interface->actionInterface();
+    QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(button.isChecked() && interface->state().checked);
+    button.setAccessibleName(QStringLiteral("Own name"));
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Own name"));
+    button.setEnabled(false);
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(button.isChecked() && interface->state().disabled);
+}
+
+} // namespace
+
+#define CHECK(function)                                                                                                \
+    QFETCH_GLOBAL(bool, isRadio);                                                                                      \
+    isRadio ? function<CRadioButtonEx>() : function<CCheckBoxEx>();
+
+class tst_CheckBoxEx : public HouseTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void sizes() { CHECK(checkSizes) }
+    void lowRadioButton();
+    void labelToggles() { CHECK(checkLabelToggles) }
+    void boxAndKeysToggle() { CHECK(checkBoxAndKeysToggle) }
+    void exclusiveButtonStaysChecked();
+    void labelWidth() { CHECK(checkLabelWidth) }
+    void palettes() { CHECK(checkPalettes) }
+    void withoutLabel() { CHECK(checkWithoutLabel) }
+    void textStaysAtTheIndicator() { CHECK(checkTextStaysAtTheIndicator) }
+    void accessible() { CHECK(checkAccessible) }
+    void radioButtonsAreTabStops();
+};
+
+void tst_CheckBoxEx::initTestCase_data()
+{
+    QTest::addColumn<bool>("isRadio");
+    QTest::newRow("check box") << false;
+    QTest::newRow("radio button") << true;
+}
+
+// As high as the text needs, even where the indicator needs more.
+void tst_CheckBoxEx::lowRadioButton()
+{
+    CCommonControlStyle style;
+    QWidget parent;
+    parent.setFont(fontOf(6));
+    CRadioButtonEx button(QStringLiteral("Matte"), &parent, 100);
+    button.setStyle(&style);
+    QVERIFY(button.height() < static_cast<QRadioButton &>(button).sizeHint().height());
+    QVERIFY(button.height() == labelOf(button)->heightForWidth(100) && labelOf(button)->height() == button.height());
 }
 
 void tst_CheckBoxEx::exclusiveButtonStaysChecked()
@@ -211,116 +297,6 @@ void tst_CheckBoxEx::exclusiveButtonStaysChecked()
     QCOMPARE(static_cast<int>(changed.count()), 1);
 }
 
-template <class Button>
-void tst_CheckBoxEx::checkLabelWidth()
-{
-    Button button(QStringLiteral("Matte"), nullptr, 100);
-    CLabelEx &label = *labelOf(button);
-    button.setLabelFont(fontOf(20));
-    const int before = button.height();
-    QCOMPARE(label.font().pixelSize(), 20);
-    label.setText(longText);
-    QCOMPARE(button.height(), before);
-    button.setFixedLabelWidth(120);
-    const int wrapped = QFontMetrics(fontOf(20)).boundingRect(0, 0, 120, 120, Qt::TextWordWrap, longText).height();
-    const int extra = std::is_same<Button, CRadioButtonEx>::value ? 8 : 0;
-    QVERIFY(wrapped > 2 * before);
-    QCOMPARE(button.size(), QSize(160, wrapped + extra));
-    QCOMPARE(label.size(), QSize(120, wrapped + extra));
-    button.setFixedLabelWidth(-5);
-    QVERIFY(button.width() == 40 && label.width() == 0);
-    button.setFixedLabelWidth(QWIDGETSIZE_MAX);
-    QCOMPARE(label.maximumWidth(), QWIDGETSIZE_MAX - 40);
-}
-
-template <class Button>
-void tst_CheckBoxEx::checkPalettes()
-{
-    Button button(longText, nullptr, 100);
-    QPalette given;
-    given.setColor(QPalette::WindowText, Qt::red);
-    given.setColor(QPalette::Disabled, QPalette::WindowText, Qt::gray);
-    given.setColor(QPalette::Window, Qt::green);
-    given.setColor(QPalette::Base, Qt::magenta);
-    button.setLabelPalette(given);
-    for (const QWidget *widget : {static_cast<QWidget *>(&button), static_cast<QWidget *>(labelOf(button))}) {
-        const QPalette palette = widget->palette();
-        for (const auto role : {QPalette::WindowText, QPalette::ButtonText}) {
-            QCOMPARE(palette.color(QPalette::Active, role), QColor(Qt::red));
-            QCOMPARE(palette.color(QPalette::Inactive, role), QColor(Qt::red));
-            QCOMPARE(palette.color(QPalette::Disabled, role), QColor(Qt::gray));
-        }
-        for (const auto role : {QPalette::Window, QPalette::Button})
-            QCOMPARE(palette.color(role), QColor(Qt::green));
-        QVERIFY(palette.color(QPalette::Base) != QColor(Qt::magenta));
-    }
-}
-
-template <class Button>
-void tst_CheckBoxEx::checkWithoutLabel()
-{
-    QWidget parent;
-    QVERIFY(Button(&parent).text().isEmpty());
-    Button button(longText, &parent);
-    QVERIFY(button.text() == longText && button.hasMouseTracking() && labelOf(button) == nullptr);
-    const QFont font = button.font();
-    const QPalette palette = button.palette();
-    const QSize widest = button.maximumSize();
-    button.labelClicked(&button);
-    button.setFixedLabelWidth(10);
-    button.setLabelPalette(QPalette(Qt::red));
-    button.setLabelFont(fontOf(30));
-    QVERIFY(!button.isChecked() && button.font() == font && button.palette() == palette);
-    QCOMPARE(button.maximumSize(), widest);
-    button.setFixedHeight(33);
-    QCOMPARE(button.height(), 33);
-    QCOMPARE(QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name), longText);
-}
-
-// Of a text in either direction of writing, on a page in either direction.
-template <class Button>
-void tst_CheckBoxEx::checkTextStaysAtTheIndicator()
-{
-    for (const QString &text : {QStringLiteral("Matte"), QStringLiteral("מט")}) {
-        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-            QWidget parent;
-            parent.setLayoutDirection(Qt::LeftToRight);
-            Button button(text, &parent, 100);
-            button.setStyle(m_style);
-            parent.setLayoutDirection(direction);
-            const QPair<int, int> ink = inkOf(*labelOf(button), button);
-            QVERIFY(ink.first < ink.second);
-            if (direction == Qt::LeftToRight)
-                QVERIFY2(ink.first >= 20 && ink.first < 25 && ink.second < 100, qPrintable(text));
-            else
-                QVERIFY2(ink.second < 120 && ink.second > 114 && ink.first > 40, qPrintable(text));
-        }
-    }
-}
-
-template <class Button>
-void tst_CheckBoxEx::checkAccessible()
-{
-    constexpr bool isRadio = std::is_same<Button, CRadioButtonEx>::value;
-    QWidget parent;
-    Button button(longText, &parent, 100);
-    button.setAutoExclusive(false);
-    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&button);
-    QCOMPARE(interface->text(QAccessible::Name), longText);
-    QCOMPARE(interface->role(), isRadio ? QAccessible::RadioButton : QAccessible::CheckBox);
-    QCOMPARE(interface->childCount(), 0);
-    QVERIFY(interface->state().checkable && interface->state().focusable && !interface->state().checked);
-    QAccessibleActionInterface *actions = interface->actionInterface();
-    QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
-    actions->doAction(QAccessibleActionInterface::toggleAction());
-    QVERIFY(button.isChecked() && interface->state().checked);
-    button.setAccessibleName(QStringLiteral("Own name"));
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Own name"));
-    button.setEnabled(false);
-    actions->doAction(QAccessibleActionInterface::toggleAction());
-    QVERIFY(button.isChecked() && interface->state().disabled);
-}
-
 void tst_CheckBoxEx::radioButtonsAreTabStops()
 {
     QWidget window;
@@ -334,8 +310,7 @@ void tst_CheckBoxEx::radioButtonsAreTabStops()
     QApplication::setActiveWindow(&window);
     QVERIFY(QTest::qWaitForWindowActive(&window));
     glossy.setChecked(true);
-    for (QWidget *button :
-         {static_cast<QWidget *>(&glossy), static_cast<QWidget *>(&matte), static_cast<QWidget *>(&other)}) {
+    for (QWidget *button : std::initializer_list<QWidget *>{&glossy, &matte, &other}) {
         QCOMPARE(button->focusPolicy(), Qt::StrongFocus);
         button->setFocus();
         QVERIFY(button->hasFocus());

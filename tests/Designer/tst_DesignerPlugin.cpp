@@ -29,17 +29,10 @@ using Widget = std::unique_ptr<QWidget>;
 
 // Exported, and yet on no form.
 const QSet<QString> notOnForms = {
-    QStringLiteral("CBlueScrollBarStyle"), // styles and their factory are no widgets
-    QStringLiteral("CC4StyleFactory"),
-    QStringLiteral("CCommonControlStyle"),
-    QStringLiteral("CDropDownScrollBarStyle"),
-    QStringLiteral("CTBWStyle"),
-    QStringLiteral("CMenuEx"), // windows of their own
-    QStringLiteral("CMessageBoxEx"),
-    QStringLiteral("CProgressBarDialogEx"),
-    QStringLiteral("CProgressDialogEx"),
-    QStringLiteral("CRainbowProgressDialog"),
-};
+    // Styles and their factory are no widgets.
+    "CBlueScrollBarStyle", "CC4StyleFactory", "CCommonControlStyle", "CDropDownScrollBarStyle", "CTBWStyle",
+    // Windows of their own.
+    "CMenuEx", "CMessageBoxEx", "CProgressBarDialogEx", "CProgressDialogEx", "CRainbowProgressDialog"};
 
 QList<QDesignerCustomWidgetInterface *> offered()
 {
@@ -129,9 +122,7 @@ QWidget *control(const Widget &form, const QString &className)
     return nullptr;
 }
 
-const QStringList inherited = {QStringLiteral("text"),  QStringLiteral("minimum"), QStringLiteral("maximum"),
-                               QStringLiteral("value"), QStringLiteral("checked"), QStringLiteral("orientation"),
-                               QStringLiteral("count")};
+const QStringList inherited = {"text", "minimum", "maximum", "value", "checked", "orientation", "count"};
 
 /** What shows in Designer's editor: the class's own properties, and of its bases text, range and state. */
 QStringList lookRangeAndText(const QWidget *widget)

@@ -39,43 +39,36 @@ QWidget *makePanel(QWidget *parent)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Maker)
-
 class tst_EarlyAccessibility : public HouseTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void sameInDisabledParent_data();
     void sameInDisabledParent();
 };
 
-void tst_EarlyAccessibility::sameInDisabledParent_data()
-{
-    QTest::addColumn<Maker>("maker");
-    QTest::newRow("CDSliderEx") << Maker(make<CDSliderEx>);
-    QTest::newRow("CLabelEx") << Maker(make<CLabelEx>);
-    QTest::newRow("CCustomIconButton") << Maker(make<CCustomIconButton>);
-    QTest::newRow("CTitleButton") << Maker(make<CTitleButton>);
-    QTest::newRow("CFrame") << Maker(make<CFrame>);
-    QTest::newRow("CProgressBarEx") << Maker(make<CProgressBarEx>);
-    QTest::newRow("CProgressBarDialogEx") << Maker(makePanel);
-    QTest::newRow("CCheckBoxEx") << Maker(makeWithLabel<CCheckBoxEx>);
-    QTest::newRow("CRadioButtonEx") << Maker(makeWithLabel<CRadioButtonEx>);
-}
-
 void tst_EarlyAccessibility::sameInDisabledParent()
 {
-    QFETCH(Maker, maker);
+    const std::pair<const char *, Maker> makers[] = {{"CDSliderEx", make<CDSliderEx>},
+                                                     {"CLabelEx", make<CLabelEx>},
+                                                     {"CCustomIconButton", make<CCustomIconButton>},
+                                                     {"CTitleButton", make<CTitleButton>},
+                                                     {"CFrame", make<CFrame>},
+                                                     {"CProgressBarEx", make<CProgressBarEx>},
+                                                     {"CProgressBarDialogEx", makePanel},
+                                                     {"CCheckBoxEx", makeWithLabel<CCheckBoxEx>},
+                                                     {"CRadioButtonEx", makeWithLabel<CRadioButtonEx>}};
     QAccessible::setActive(true);
     QWidget enabled;
     QWidget disabled;
     disabled.setEnabled(false);
-    QAccessibleInterface *usual = QAccessible::queryAccessibleInterface(maker(&enabled));
-    QAccessibleInterface *early = QAccessible::queryAccessibleInterface(maker(&disabled));
-    QCOMPARE(early->role(), usual->role());
-    QCOMPARE(early->childCount(), usual->childCount());
-    QCOMPARE(early->text(QAccessible::Name), usual->text(QAccessible::Name));
+    for (const auto &[name, maker] : makers) {
+        QAccessibleInterface *usual = QAccessible::queryAccessibleInterface(maker(&enabled));
+        QAccessibleInterface *early = QAccessible::queryAccessibleInterface(maker(&disabled));
+        QVERIFY2(early->role() == usual->role(), name);
+        QVERIFY2(early->childCount() == usual->childCount(), name);
+        QVERIFY2(early->text(QAccessible::Name) == usual->text(QAccessible::Name), name);
+    }
 }
 
 HOUSE_TEST_MAIN(tst_EarlyAccessibility)

@@ -142,16 +142,13 @@ private Q_SLOTS:
     void initTestCase();
     void xml_data();
     void xml();
-    void directory_data();
     void directory();
     void bitmap_data();
     void bitmap();
     void pipes();
     void language_data();
     void language();
-    void everyPageIsPainted_data();
     void everyPageIsPainted();
-    void bitmapsStayInside_data();
     void bitmapsStayInside();
 
 private:
@@ -199,23 +196,17 @@ void tst_LookFaults::xml()
     QVERIFY(isBounded());
 }
 
-void tst_LookFaults::directory_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("not there") << QStringLiteral("/nowhere/at/all");
-    QTest::newRow("a file") << QStringLiteral("/etc/passwd");
-    QTest::newRow("a device") << QStringLiteral("/dev/full");
-    QTest::newRow("unreadable, also by root") << QStringLiteral("/proc/self/mem");
-    QTest::newRow("a name that no system takes") << QLatin1Char('/') + QString(10000, QLatin1Char('x'));
-}
-
 void tst_LookFaults::directory()
 {
-    QFETCH(QString, path);
-    Deployment deployment;
-    deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), path);
-    QCOMPARE(deployment.ask(color + pixmap), QStringList({builtIn, QStringLiteral("null")}));
-    QVERIFY(deployment.log().contains(QLatin1String("ERROR : Graphics path not found for: Close.png")));
+    for (const QString &path :
+         {QStringLiteral("/nowhere/at/all"), QStringLiteral("/etc/passwd"), QStringLiteral("/dev/full"),
+          QStringLiteral("/proc/self/mem"), // unreadable, also by root
+          QLatin1Char('/') + QString(10000, QLatin1Char('x'))}) {
+        Deployment deployment;
+        deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), path);
+        QCOMPARE(deployment.ask(color + pixmap), QStringList({builtIn, QStringLiteral("null")}));
+        QVERIFY(deployment.log().contains(QLatin1String("ERROR : Graphics path not found for: Close.png")));
+    }
 }
 
 void tst_LookFaults::bitmap_data()
@@ -259,14 +250,16 @@ void tst_LookFaults::language_data()
 {
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("recorded");
+    const auto row = [](const char *name, const QString &tag, const QString &recorded) {
+        QTest::newRow(name) << tag << recorded;
+    };
     const QString letters(10000, QLatin1Char('x'));
-    QTest::newRow("10,000 letters") << letters << letters;
-    QTest::newRow("a separator") << QStringLiteral("de/AT") << QStringLiteral("de/AT");
-    QTest::newRow("only separators") << QStringLiteral("//") << QStringLiteral("//");
-    QTest::newRow("out of the directory, a locale by its dots")
-        << QStringLiteral("../../../..") << QStringLiteral("en");
-    QTest::newRow("two lines") << QStringLiteral("de\nAT") << QStringLiteral("de AT");
-    QTest::newRow("a placeholder") << QStringLiteral("%1%n") << QStringLiteral("%1%n");
+    row("10,000 letters", letters, letters);
+    row("a separator", "de/AT", "de/AT");
+    row("only separators", "//", "//");
+    row("out of the directory, a locale by its dots", "../../../..", "en");
+    row("two lines", "de\nAT", "de AT");
+    row("a placeholder", "%1%n", "%1%n");
 }
 
 // Such a tag has no files of its own; it takes the common ones and the fonts of all other languages.
@@ -285,56 +278,41 @@ void tst_LookFaults::language()
     QVERIFY(deployment.log().contains(QRegularExpression(record)));
 }
 
-void tst_LookFaults::everyPageIsPainted_data()
-{
-    QTest::addColumn<QByteArray>("bitmap");
-    QTest::newRow("no directory") << QByteArray();
-    QTest::newRow("huge bitmaps") << png(hugeSide);
-    QTest::newRow("bitmaps of a pixel") << QByteArray("P6 1 1 255\nabc");
-}
-
 // All painters, with bitmaps that none of them is made for.
 void tst_LookFaults::everyPageIsPainted()
 {
-    QFETCH(QByteArray, bitmap);
     if (QByteArray(GALLERY).isEmpty())
         QSKIP("built without the gallery");
-    static const QStringList pages = soundPages();
+    const QStringList pages = soundPages();
     QVERIFY2(pages.size() >= 20, qPrintable(pages.join(QLatin1Char('\n'))));
     Deployment deployment;
     deployment.set(QStringLiteral("ZEL_LOG"), QStringLiteral("warning"));
-    if (bitmap.isEmpty())
-        deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral("/nowhere"));
-    for (const QString &name : artwork())
-        deployment.write(name, bitmap);
+    for (const QByteArray &bitmap : {png(hugeSide), QByteArray("P6 1 1 255\nabc")}) {
+        for (const QString &name : artwork())
+            deployment.write(name, bitmap);
+        QCOMPARE(paintedPages(deployment), pages);
+        QVERIFY(isBounded());
+    }
+    deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral("/nowhere"));
     QCOMPARE(paintedPages(deployment), pages);
-    QVERIFY(isBounded());
-}
-
-void tst_LookFaults::bitmapsStayInside_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("a pixel") << QSize(1, 1);
-    QTest::newRow("wide") << QSize(300, 3);
-    QTest::newRow("high") << QSize(3, 300);
-    QTest::newRow("large") << QSize(300, 300);
 }
 
 // Whoever has the style paint elements side by side must find each within its own rectangle.
 void tst_LookFaults::bitmapsStayInside()
 {
-    QFETCH(QSize, size);
-    for (const QString &name : artwork())
-        m_ownLook.addBitmap(name, size);
-    QPixmapCache::clear();
-    CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style);
     const QRect place(100, 110, 90, 24);
-    const QMap<QString, QImage> elements = paintedElements(place);
-    for (auto element = elements.begin(); element != elements.end(); ++element) {
-        QVERIFY2(!Picture::paintsOutside(element.value(), place), qPrintable(element.key()));
-        // Scaled to the height of a button, a narrow slice has no width left.
-        const bool isSeen = element.key() != QLatin1String("button") || size.width() >= size.height();
-        QVERIFY2(Picture::boundsOf(element.value(), Qt::red).isNull() != isSeen, qPrintable(element.key()));
+    CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style);
+    for (const QSize &size : {QSize(1, 1), QSize(300, 3), QSize(3, 300), QSize(300, 300)}) {
+        for (const QString &name : artwork())
+            m_ownLook.addBitmap(name, size);
+        QPixmapCache::clear();
+        const QMap<QString, QImage> elements = paintedElements(place);
+        for (auto element = elements.begin(); element != elements.end(); ++element) {
+            QVERIFY2(!Picture::paintsOutside(element.value(), place), qPrintable(element.key()));
+            // Scaled to the height of a button, a narrow slice has no width left.
+            const bool isSeen = element.key() != QLatin1String("button") || size.width() >= size.height();
+            QVERIFY2(Picture::boundsOf(element.value(), Qt::red).isNull() != isSeen, qPrintable(element.key()));
+        }
     }
     CC4StyleFactory::releaseStyle(CC4StyleFactory::CC4Style);
 }

@@ -377,12 +377,6 @@ void useRunningBar(Person &person)
     QVERIFY(QTest::qWaitFor([&self] { return self.isNull() || !self->isVisible(); }));
 }
 
-template <typename Dialog>
-QWidget *makeDialog(QWidget *parent)
-{
-    return new Dialog(parent);
-}
-
 void useDialog(Person &person)
 {
     QTimer::singleShot(0, person.control(), [person]() mutable { person.type(Qt::Key_Escape); });
@@ -443,8 +437,8 @@ std::vector<Case> allCases()
         {"CMessageBoxEx that a button ends", makeMessageBox, useOkButton, ends, moves},
         {"CMessageBoxEx that counts down", makeMessageBox, useCountDown, ends, moves},
         {"CProgressBarDialogEx", makeRunningBar, useRunningBar, {}, {}},
-        {"CProgressDialogEx", makeDialog<CProgressDialogEx>, useDialog, ends, {}},
-        {"CRainbowProgressDialog", makeDialog<CRainbowProgressDialog>, useDialog, ends, {}},
+        {"CProgressDialogEx", makePlain<CProgressDialogEx>, useDialog, ends, {}},
+        {"CRainbowProgressDialog", makePlain<CRainbowProgressDialog>, useDialog, ends, {}},
     };
 }
 

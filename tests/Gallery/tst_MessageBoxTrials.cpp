@@ -29,7 +29,6 @@ class tst_MessageBoxTrials : public HouseTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void leavesNothing_data();
     void leavesNothing();
     void pageGoesBeforeItsBox();
 
@@ -67,21 +66,15 @@ bool tst_MessageBoxTrials::runBox(gallery::MainWindow &window, const QString &ca
     return false;
 }
 
-void tst_MessageBoxTrials::leavesNothing_data()
-{
-    QTest::addColumn<QString>("caption");
-    for (const char *caption : {"Plain", "Around a widget", "Widget and help", "Without a parent"})
-        QTest::newRow(caption) << QString::fromLatin1(caption);
-}
-
 void tst_MessageBoxTrials::leavesNothing()
 {
-    QFETCH(QString, caption);
     gallery::MainWindow window{gallery::GalleryOptions()};
     showPage(window, QStringLiteral("message-boxes"));
     const auto before = QApplication::allWidgets().size();
-    QVERIFY(runBox(window, caption, [](CMessageBoxEx *box) { box->close(); }));
-    QCOMPARE(QApplication::allWidgets().size(), before);
+    for (const char *caption : {"Plain", "Around a widget", "Widget and help", "Without a parent"}) {
+        QVERIFY(runBox(window, QLatin1String(caption), [](CMessageBoxEx *box) { box->close(); }));
+        QVERIFY2(QApplication::allWidgets().size() == before, caption);
+    }
 }
 
 void tst_MessageBoxTrials::pageGoesBeforeItsBox()

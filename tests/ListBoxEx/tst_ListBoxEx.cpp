@@ -15,9 +15,7 @@ private Q_SLOTS:
     void initTestCase() { m_style = new CCommonControlStyle; }
     void cleanupTestCase() { delete m_style; }
     void rows();
-    void stops_data();
     void stops();
-    void picturesMakeRows();
     void selectedRowsLookTheSame_data();
     void selectedRowsLookTheSame();
 
@@ -29,58 +27,44 @@ void tst_ListBoxEx::rows()
 {
     QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("picture.png"));
-    QPixmap picture(60, 40);
-    picture.fill(Qt::red);
-    QVERIFY(picture.save(path));
-    CListBoxEx list;
-    QCOMPARE(list.font().pixelSize(), 12);
-    const QBrush ordinary = list.palette().brush(QPalette::Inactive, QPalette::Highlight);
-    list.addRow(path, QStringLiteral("with"));
-    list.addRow(directory.filePath(QStringLiteral("missing.png")), QStringLiteral("without"));
-    QCOMPARE(list.count(), 2);
-    QCOMPARE(list.item(0)->icon().availableSizes(), QList<QSize>{QSize(60, 40)});
-    QVERIFY(list.item(1)->icon().isNull());
-    QCOMPARE(list.item(1)->text(), QStringLiteral("without"));
-    QCOMPARE(int(list.item(1)->textAlignment()), int(Qt::AlignLeft | Qt::AlignVCenter));
-    QCOMPARE(list.item(1)->type(), 0);
-    QCOMPARE(list.palette().brush(QPalette::Inactive, QPalette::Highlight), ordinary);
-}
-
-void tst_ListBoxEx::stops_data()
-{
-    QTest::addColumn<QList<double>>("expected");
-    QTest::newRow("one row") << QList<double>{0, 0.9999};
-    QTest::newRow("three rows") << QList<double>{0, 1 / 3.0 - 0.0001, 1 / 3.0, 2 / 3.0 - 0.0001, 2 / 3.0, 0.9999};
-}
-
-void tst_ListBoxEx::stops()
-{
-    QFETCH(QList<double>, expected);
-    CListBoxEx list;
-    for (int row = 0; row < expected.size() / 2; ++row)
-        list.addRow(QString(), QStringLiteral("row"));
-    const QGradient *gradient = list.palette().brush(QPalette::Active, QPalette::Highlight).gradient();
-    QVERIFY(gradient != nullptr);
-    QCOMPARE(static_cast<const QLinearGradient *>(gradient)->finalStop(), QPointF(0, 92.0 * list.count()));
-    const QGradientStops stops = gradient->stops();
-    QCOMPARE(int(stops.size()), int(expected.size()));
-    for (int i = 0; i < stops.size(); ++i) {
-        QVERIFY(qAbs(stops.at(i).first - expected.at(i)) < 1e-9);
-        QCOMPARE(stops.at(i).second, i % 2 == 0 ? QColor(0x19, 0xA2, 0xCC) : QColor(0x0F, 0x6C, 0xB1));
-    }
-}
-
-void tst_ListBoxEx::picturesMakeRows()
-{
-    QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("picture.png"));
     QPixmap picture(120, 180); // is made smaller
     picture.fill(Qt::red);
     QVERIFY(picture.save(path));
     CListBoxEx list;
     list.setStyle(m_style);
-    list.addRow(path, QStringLiteral("row"));
+    QCOMPARE(list.font().pixelSize(), 12);
+    const QBrush ordinary = list.palette().brush(QPalette::Inactive, QPalette::Highlight);
+    list.addRow(path, QStringLiteral("with"));
+    list.addRow(directory.filePath(QStringLiteral("missing.png")), QStringLiteral("without"));
+    QCOMPARE(list.count(), 2);
+    QCOMPARE(list.item(0)->icon().availableSizes(), QList<QSize>{picture.size()});
     QCOMPARE(list.sizeHintForRow(0), 92);
+    QVERIFY(list.item(1)->icon().isNull());
+    QCOMPARE(list.item(1)->text(), QStringLiteral("without"));
+    QCOMPARE(int(list.item(1)->textAlignment()), int(Qt::AlignLeft | Qt::AlignVCenter));
+    QCOMPARE(list.palette().brush(QPalette::Inactive, QPalette::Highlight), ordinary);
+}
+
+// For styles that paint a selected row with the brush as it is.
+void tst_ListBoxEx::stops()
+{
+    CListBoxEx list;
+    for (int row = 0; row < 3; ++row)
+        list.addRow(QString(), QStringLiteral("row"));
+    const QGradient *gradient = list.palette().brush(QPalette::Active, QPalette::Highlight).gradient();
+    QVERIFY(gradient != nullptr);
+    QCOMPARE(static_cast<const QLinearGradient *>(gradient)->finalStop(), QPointF(0, 92.0 * list.count()));
+    const QColor top(0x19, 0xA2, 0xCC);
+    const QColor bottom(0x0F, 0x6C, 0xB1);
+    const QGradientStops expected = {{0, top},       {1 / 3.0 - 0.0001, bottom},
+                                     {1 / 3.0, top}, {2 / 3.0 - 0.0001, bottom},
+                                     {2 / 3.0, top}, {0.9999, bottom}};
+    const QGradientStops stops = gradient->stops();
+    QCOMPARE(stops.size(), expected.size());
+    for (int i = 0; i < stops.size(); ++i) {
+        QVERIFY(qAbs(stops.at(i).first - expected.at(i).first) < 1e-9);
+        QCOMPARE(stops.at(i).second, expected.at(i).second);
+    }
 }
 
 void tst_ListBoxEx::selectedRowsLookTheSame_data()

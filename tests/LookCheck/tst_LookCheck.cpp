@@ -6,6 +6,7 @@
 #include "UiGraphicsColors.h"
 #include "UiGraphicsFonts.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
@@ -26,9 +27,29 @@ constexpr int runLimit = 60 * 1000; // milliseconds; a run takes less than one, 
 constexpr int cannotRun = 2;
 constexpr long mostMemory = 512L * 1024; // kilobytes; sanitizers included
 
+const QString gallery = QStringLiteral(GALLERY); // empty: built without it
+const QString xmlFile = QStringLiteral("UIGraphics.xml");
+const QString closeIcon = QStringLiteral("Close.png");
+const QString fontFile = QStringLiteral("Fonts/KORZEMED.otf");
+
 QStringList words(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+QStringList lines(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char('\n'));
+}
+
+/** What a table of the library calls things. */
+template <typename Table, typename Name>
+QStringList namesIn(const Table &table, Name name)
+{
+    QStringList names;
+    for (const auto &row : table)
+        names.append(QString::fromUtf16(row.*name));
+    return names;
 }
 
 /** One run of a program to its end. */
@@ -115,37 +136,17 @@ private:
     QTemporaryDir m_directory;
 };
 
-void appendNumber(QByteArray *bytes, quint32 number)
-{
-    for (int shift = 24; shift >= 0; shift -= 8)
-        *bytes += static_cast<char>(number >> shift & 0xFF);
-}
+constexpr int hugeSide = 9000; // a hundred kilobytes as a file, some hundred megabytes as a pixmap
 
-void appendChunk(QByteArray *png, const QByteArray &type, const QByteArray &content)
+QByteArray png(int side)
 {
-    quint32 sum = 0xFFFFFFFF;
-    for (const char byte : type + content) {
-        sum ^= static_cast<quint8>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            sum = sum >> 1 ^ (sum & 1 ? 0xEDB88320U : 0U);
-    }
-    appendNumber(png, static_cast<quint32>(content.size()));
-    *png += type + content;
-    appendNumber(png, ~sum);
-}
-
-/** A PNG file that says of itself to be of that size, and holds next to nothing. */
-QByteArray boastingPng(quint32 side)
-{
-    QByteArray header;
-    appendNumber(&header, side);
-    appendNumber(&header, side);
-    header += QByteArray("\x08\x06\x00\x00\x00", 5);
-    QByteArray png("\x89PNG\r\n\x1a\n");
-    appendChunk(&png, "IHDR", header);
-    appendChunk(&png, "IDAT", QByteArray("\x78\x9c\x03\x00\x00\x00\x00\x01", 8));
-    appendChunk(&png, "IEND", QByteArray());
-    return png;
+    QImage image(side, side, QImage::Format_Mono);
+    image.fill(1);
+    QByteArray file;
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return file;
 }
 
 QByteArray colorXml(const char *name, const char *text)
@@ -160,9 +161,7 @@ class tst_LookCheck : public HouseTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void ownArtworkIsClean_data();
     void ownArtworkIsClean();
-    void tenFaultsAreTenFindings();
     void xmlFaults_data();
     void xmlFaults();
     void bitmapFaults_data();
@@ -171,7 +170,6 @@ private Q_SLOTS:
     void languageFolderHoldsWhatDiffers();
     void namesThatLibraryPassesOver();
     void linksToNowhere();
-    void languageTags_data();
     void languageTags();
     void contrastIsToldOnce();
     void contrastPairsNameKeys();
@@ -179,7 +177,6 @@ private Q_SLOTS:
     void partialDirectoryMayLackBitmaps();
     void contrastOfBitmaps();
     void textReportSaysWhereAndWhat();
-    void cannotRun_data();
     void cannotRun();
     void hostileFiles_data();
     void hostileFiles();
@@ -191,47 +188,16 @@ private Q_SLOTS:
     void sheetThatCannotBe();
 };
 
-void tst_LookCheck::ownArtworkIsClean_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("all") << QStringList();
-    QTest::newRow("a language with a font") << words("--language ja");
-    QTest::newRow("a language without") << words("--language de");
-}
-
 void tst_LookCheck::ownArtworkIsClean()
 {
-    QFETCH(QStringList, options);
-    const Run run(QStringList(options) << QStringLiteral("--json") << QStringLiteral(ARTWORK));
-    QCOMPARE(run.status, 0);
-    QCOMPARE(run.json().value(QStringLiteral("findings")).toArray(), QJsonArray());
-    // The look's own weak places are not hidden.
-    QVERIFY(run.output.contains("UIGCLR_IMPUI_BLUTITLE on UIGCLR_LE_BACKGROUND, 3.2 to 1"));
-}
-
-void tst_LookCheck::tenFaultsAreTenFindings()
-{
-    const Deployment deployment;
-    QVERIFY(QFile::remove(deployment.path(QStringLiteral("Close.png"))));
-    deployment.write(QStringLiteral("CheckboxActive.png"), "no bitmap");
-    deployment.scale(QStringLiteral("PushbuttonWhiteLeftCap.png"), QSize(8, 20));
-    deployment.scale(QStringLiteral("restore@2x.png"), QSize(15, 15));
-    deployment.write(QStringLiteral("UIGraphics.xml"), "<Look>\n"
-                                                       "<Color Name='UIGCLR_PB_NORMAL_BOTOM'>8A2BE2</Color>\n"
-                                                       "<Color Name='UIGCLR_PB_NORMAL_TOP'>#8A2BE2</Color>\n"
-                                                       "<Color Name='UIGCLR_GLOW'>112233</Color>\n"
-                                                       "<Color Name='UIGCLR_IMPUI_GRAYTITLE'>CCCCCC</Color>\n"
-                                                       "<Color Name='UIGCLR_GLOW'>445566</Color>\n"
-                                                       "<Font Name='UIGFONT_ARIAL'>No Such Sans</Font>\n"
-                                                       "<Font Name='UIGFONT_KORSANS_MEDIUM'>No Such</Font>\n"
-                                                       "</Look>\n");
-    QCOMPARE(deployment.findings(),
-             QStringList() << QStringLiteral("CheckboxActive.png:0 error") << QStringLiteral("Close.png:0 error")
-                           << QStringLiteral("PushbuttonWhiteLeftCap.png:0 error")
-                           << QStringLiteral("UIGraphics.xml:2 warning") << QStringLiteral("UIGraphics.xml:3 error")
-                           << QStringLiteral("UIGraphics.xml:5 warning") << QStringLiteral("UIGraphics.xml:6 warning")
-                           << QStringLiteral("UIGraphics.xml:7 warning") << QStringLiteral("UIGraphics.xml:8 warning")
-                           << QStringLiteral("restore@2x.png:0 error"));
+    // All languages, one with a font of its own and one without.
+    for (const char *options : {"--json", "--json --language ja", "--json --language de"}) {
+        const Run run(words(options) << QStringLiteral(ARTWORK));
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.json().value(QStringLiteral("findings")).toArray(), QJsonArray());
+        // The look's own weak places are not hidden.
+        QVERIFY(run.output.contains("UIGCLR_IMPUI_BLUTITLE on UIGCLR_LE_BACKGROUND, 3.2 to 1"));
+    }
 }
 
 void tst_LookCheck::xmlFaults_data()
@@ -243,31 +209,20 @@ void tst_LookCheck::xmlFaults_data()
         QTest::newRow(name) << xml << QString::fromLatin1(finding) << QString::fromLatin1(said);
     };
     row("good", colorXml("UIGCLR_GLOW", "8A2BE2"), "", "Nothing found");
-    row("good, with alpha", colorXml("UIGCLR_GLOW", "FF8A2BE2"), "", "Nothing found");
     row("alpha at the end", colorXml("UIGCLR_GLOW", "8A2BE2FF"), ":2 warning",
         "If it is meant as RRGGBBAA, write 8A2BE2");
-    row("another alpha", colorXml("UIGCLR_GLOW", "808A2BE2"), "", "Nothing found");
     row("element in lower case", "<a>\n<color Name='UIGCLR_GLOW'>8A2BE2</color></a>", ":2 warning",
         "no element \"color\"");
     row("British element", "<a>\n<Colour name='UIGCLR_GLOW'>8A2BE2</Colour></a>", ":2 warning",
         "no element \"Colour\"");
-    row("font in lower case", "<a>\n<font Name='UIGFONT_ARIAL'>Arial</font></a>", ":2 warning", "no element \"font\"");
     row("key as element", "<a>\n<UIGCLR_GLOW>8A2BE2</UIGCLR_GLOW></a>", ":2 warning", "<Color Name=\"UIGCLR_GLOW\">");
-    row("another element with a key", "<a>\n<Entry Name='UIGCLR_GLOW'/></a>", ":2 warning", "no element \"Entry\"");
-    row("elements for order",
-        "<UIGraphics><Colors Name='x'><Color "
-        "Name='UIGCLR_GLOW'>8A2BE2</Color></Colors><Fonts/><Meta>x</Meta></UIGraphics>",
-        "", "Nothing found");
     row("Latin-1", "<a>\n<!-- x -->\n<!-- \xE4 -->\n</a>", ":3 error", "Save it as UTF-8");
     row("Latin-1, declared", "<?xml version='1.0' encoding='ISO-8859-1'?>\n<a>\n<!-- \xE4 --></a>", "",
         "Nothing found");
     row("unknown key", colorXml("UIGCLR_GLOV", "8A2BE2"), ":2 warning", "nearest key is UIGCLR_GLOW.");
     row("key in lower case", colorXml("uigclr_glow", "8A2BE2"), ":2 warning", "nearest key is UIGCLR_GLOW.");
     row("key far from any", colorXml("Ceiling", "8A2BE2"), ":2 warning", "lookcheck --keys");
-    row("key of the other kind", colorXml("UIGFONT_ARIAL", "8A2BE2"), ":2 warning", "no key of a Color");
     row("leading #", colorXml("UIGCLR_GLOW", "#8A2BE2"), ":2 error", "begins with a #");
-    row("no number", colorXml("UIGCLR_GLOW", "purple"), ":2 error", "no hexadecimal number");
-    row("too long", colorXml("UIGCLR_GLOW", "8A2BE28A2BE2"), ":2 error", "too long");
     row("a function", colorXml("UIGCLR_GLOW", "rgb(1,2,3)"), ":2 error", "is no hexadecimal number and gives black");
     row("overridden", "<a>\n<Color Name='UIGCLR_GLOW'>red</Color><Color Name='UIGCLR_GLOW'>8A2BE2</Color></a>",
         ":2 error,:2 warning", "is no hexadecimal number.\n");
@@ -281,6 +236,9 @@ void tst_LookCheck::xmlFaults_data()
     row("no Name", "<a>\n\n<Color name='UIGCLR_GLOW'>8A2BE2</Color></a>", ":3 warning", "without a Name");
     row("not closed", "<a>\n<Color Name='UIGCLR_GLOW'>8A2BE2</Color>\n", ":3 error", "no effect at all");
     row("empty family", "<a>\n<Font Name='UIGFONT_ARIAL'/></a>", ":2 warning", "system's own font");
+    row("families that are not there",
+        "<a>\n<Font Name='UIGFONT_ARIAL'>No Such</Font>\n<Font Name='UIGFONT_KORSANS_MEDIUM'>No Such</Font></a>",
+        ":2 warning,:3 warning", "0 errors, 2 warnings");
     row("endless family",
         QByteArray("<a>\n<Font Name='UIGFONT_ARIAL'>DejaVu Sans,") + QByteArray(300, 'x') + "</Font></a>", ":2 warning",
         "longer than 256");
@@ -292,11 +250,11 @@ void tst_LookCheck::xmlFaults()
     QFETCH(QString, finding);
     QFETCH(QString, said);
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), xml);
+    deployment.write(xmlFile, xml);
     QStringList expected;
     if (!finding.isEmpty())
         for (const QString &each : finding.split(QLatin1Char(',')))
-            expected.append(QStringLiteral("UIGraphics.xml") + each);
+            expected.append(xmlFile + each);
     QCOMPARE(deployment.findings(), expected);
     const QString text = deployment.text();
     QVERIFY2(text.contains(said), qPrintable(text));
@@ -311,7 +269,6 @@ void tst_LookCheck::bitmapFaults_data()
         QTest::newRow(name) << QString::fromLatin1(bitmap) << size << QString::fromLatin1(said);
     };
     row("lower middle", "PushbuttonGreenBlit.png", QSize(4, 26), "is 4 x 26 pixels and should be 27 high");
-    row("wider pressed cap", "PushbuttonBluePressedLeftCap.png", QSize(9, 27), "should be 8 wide");
     row("check box of another size", "CheckboxActiveHover.png", QSize(13, 12),
         "14 wide as the other check boxes, and 14");
     row("lower mask", "status-rainbow-mask-left.png", QSize(8, 12), "should be 16 high as the other masks");
@@ -344,7 +301,7 @@ void tst_LookCheck::privateFont()
     const QString testFont = QStringLiteral(TEST_FONT);
     if (!QFile::exists(testFont))
         QSKIP("No DejaVu Sans here");
-    const auto font = QStringLiteral("Fonts/KORZEMED.otf");
+    const QString &font = fontFile;
     const Deployment deployment;
     QVERIFY(QDir(deployment.path()).mkdir(QStringLiteral("Fonts")));
     QCOMPARE(deployment.findings(), QStringList(font + QStringLiteral(":0 warning"))); // a folder, but no font
@@ -354,23 +311,24 @@ void tst_LookCheck::privateFont()
     QVERIFY(QFile::remove(deployment.path(font)) && QFile::copy(testFont, deployment.path(font)));
     QCOMPARE(deployment.findings(), QStringList(font + QStringLiteral(":0 error")));
     QVERIFY(deployment.text().contains(QStringLiteral("\"DejaVu Sans\", and UIGFONT_KORSANS_MEDIUM says")));
-    deployment.write(QStringLiteral("UIGraphics.xml"), "<a><Font Name='UIGFONT_KORSANS_MEDIUM'>DejaVu Sans</Font></a>");
+    deployment.write(xmlFile, "<a><Font Name='UIGFONT_KORSANS_MEDIUM'>DejaVu Sans</Font></a>");
     QCOMPARE(deployment.findings(), QStringList());
 }
 
 void tst_LookCheck::languageFolderHoldsWhatDiffers()
 {
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_GLOW", "#112233"));
+    deployment.write(xmlFile, colorXml("UIGCLR_GLOW", "#112233"));
     deployment.write(QStringLiteral("ja/UIGraphics.xml"), colorXml("UIGCLR_GLOW", "zz"));
     QVERIFY(
         QFile::copy(deployment.path(QStringLiteral("restore.png")), deployment.path(QStringLiteral("ja/Restore.png"))));
-    QVERIFY(QFile::copy(deployment.path(QStringLiteral("Close.png")), deployment.path(QStringLiteral("ja/Close.png"))));
+    QVERIFY(QFile::copy(deployment.path(closeIcon), deployment.path(QStringLiteral("ja/Close.png"))));
     deployment.scale(QStringLiteral("ja/Close.png"), QSize(12, 12));
-    const QStringList common{QStringLiteral("UIGraphics.xml:2 error")};
-    const QStringList both{QStringLiteral("UIGraphics.xml:2 error"), QStringLiteral("ja/Close.png:0 error"),
-                           QStringLiteral("ja/Restore.png:0 warning"), QStringLiteral("ja/UIGraphics.xml:2 error")};
-    QCOMPARE(deployment.findings(words("--language de")), common);
+    const QStringList both = lines("UIGraphics.xml:2 error\n"
+                                   "ja/Close.png:0 error\n"
+                                   "ja/Restore.png:0 warning\n"
+                                   "ja/UIGraphics.xml:2 error");
+    QCOMPARE(deployment.findings(words("--language de")), lines("UIGraphics.xml:2 error"));
     QCOMPARE(deployment.findings(words("--language ja")), both);
     QCOMPARE(deployment.findings(), both);
 }
@@ -381,51 +339,43 @@ void tst_LookCheck::namesThatLibraryPassesOver()
     for (const char *name : {"UIGraphics.xml.txt", "ja_JP/UIGraphics.xml", "jp/UIGraphics.xml", "ja/fonts/KORZEMED.otf",
                              "ko/Fonts/KORZEMED.otf", "ja/UIGraphics.xml", "ko/UIGraphics.xml"})
         deployment.write(QLatin1String(name), "<a/>");
-    const QStringList expected{QStringLiteral("UIGraphics.xml.txt:0 warning"), QStringLiteral("ja/fonts:0 warning"),
-                               QStringLiteral("ja_JP:0 warning"), QStringLiteral("jp:0 warning"),
-                               QStringLiteral("ko/Fonts/KORZEMED.otf:0 warning")};
-    QCOMPARE(deployment.findings(), expected);
+    QCOMPARE(deployment.findings(), lines("UIGraphics.xml.txt:0 warning\n"
+                                          "ja/fonts:0 warning\n"
+                                          "ja_JP:0 warning\n"
+                                          "jp:0 warning\n"
+                                          "ko/Fonts/KORZEMED.otf:0 warning"));
     QVERIFY(deployment.text().contains(QStringLiteral("Is it meant to be \"ja\"?")));
 }
 
 void tst_LookCheck::linksToNowhere()
 {
     const Deployment deployment;
-    const QString xml = QStringLiteral("UIGraphics.xml");
-    for (const QString &target : {QStringLiteral("/no/such/file"), deployment.path(xml)}) { // nothing, and itself
-        QFile::remove(deployment.path(xml));
-        QVERIFY(QFile::link(target, deployment.path(xml)));
-        QCOMPARE(deployment.findings(), QStringList(xml + QStringLiteral(":0 error")));
+    for (const QString &target : {QStringLiteral("/no/such/file"), deployment.path(xmlFile)}) { // nothing, and itself
+        QFile::remove(deployment.path(xmlFile));
+        QVERIFY(QFile::link(target, deployment.path(xmlFile)));
+        QCOMPARE(deployment.findings(), lines("UIGraphics.xml:0 error"));
     }
-}
-
-void tst_LookCheck::languageTags_data()
-{
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<int>("status");
-    QTest::newRow("tag") << QStringLiteral("zh-cht") << 0;
-    QTest::newRow("alias") << QStringLiteral("zh-tw") << 0;
-    QTest::newRow("without a font of its own") << QStringLiteral("pt-br") << 0;
-    QTest::newRow("locale") << QStringLiteral("ko_KR.UTF-8") << 1; // what is wrong in ko/
-    QTest::newRow("country") << QStringLiteral("jp") << ::cannotRun;
-    QTest::newRow("application's own") << QStringLiteral("house") << 1;
 }
 
 void tst_LookCheck::languageTags()
 {
-    QFETCH(QString, tag);
-    QFETCH(int, status);
     const Deployment deployment;
     deployment.write(QStringLiteral("ko/UIGraphics.xml"), "<");
     deployment.write(QStringLiteral("house/UIGraphics.xml"), "<");
-    QCOMPARE(Run({QStringLiteral("--language"), tag, deployment.path()}).status, status);
+    // A language, its alias, a locale, the application's own language; a country and a way out.
+    const std::pair<const char *, int> tags[] = {{"zh-cht", 0}, {"zh-tw", 0},        {"ko_KR.UTF-8", 1},
+                                                 {"house", 1},  {"jp", ::cannotRun}, {"../x", ::cannotRun}};
+    for (const auto &[tag, status] : tags) {
+        const Run run({QStringLiteral("--language"), QLatin1String(tag), deployment.path()});
+        QVERIFY2(run.status == status && run.output.isEmpty() == (status == ::cannotRun), tag);
+    }
 }
 
 // A line of the common file makes the same place hard to read in each language.
 void tst_LookCheck::contrastIsToldOnce()
 {
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_RECTGRAD1", "000000"));
+    deployment.write(xmlFile, colorXml("UIGCLR_RECTGRAD1", "000000"));
     deployment.write(QStringLiteral("ja/UIGraphics.xml"), colorXml("UIGCLR_RECTGRAD2", "FAFAFA"));
     deployment.write(QStringLiteral("ko/UIGraphics.xml"), colorXml("UIGCLR_GLOW", "101010"));
     const QStringList once{QStringLiteral("UIGraphics.xml:2 warning")};
@@ -436,12 +386,8 @@ void tst_LookCheck::contrastIsToldOnce()
 
 void tst_LookCheck::contrastPairsNameKeys()
 {
-    QSet<QString> keys;
-    for (const ColorDefault &color : colorDefaults)
-        keys.insert(QString::fromUtf16(color.key));
-    QSet<QString> bitmaps;
-    for (const LookBitmap &bitmap : lookBitmaps)
-        bitmaps.insert(QString::fromUtf16(bitmap.name));
+    const QStringList keys = namesIn(colorDefaults, &ColorDefault::key);
+    const QStringList bitmaps = namesIn(lookBitmaps, &LookBitmap::name);
     QSet<QString> places;
     for (const lookcheck::ContrastPair &pair : lookcheck::contrastPairs) {
         for (const char *key : {pair.text, pair.ground, pair.groundEnd})
@@ -484,7 +430,7 @@ void tst_LookCheck::contrastOfBitmaps()
 void tst_LookCheck::textReportSaysWhereAndWhat()
 {
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_GL\u009bOW\u202e", "8A2BE2"));
+    deployment.write(xmlFile, colorXml("UIGCLR_GL\u009bOW\u202e", "8A2BE2"));
     QVERIFY(
         QFile::rename(deployment.path(QStringLiteral("restore.png")), deployment.path(QStringLiteral("Restore.png"))));
     const QString text = deployment.text();
@@ -495,24 +441,12 @@ void tst_LookCheck::textReportSaysWhereAndWhat()
     QVERIFY(deployment.text({QStringLiteral("--notes")}).contains(QStringLiteral(": note: ")));
 }
 
-void tst_LookCheck::cannotRun_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("nothing") << QStringList();
-    QTest::newRow("no directory") << QStringList(QStringLiteral("/no/such/look"));
-    QTest::newRow("a file") << QStringList(QStringLiteral(LOOKCHECK));
-    QTest::newRow("two directories") << words("/ /");
-    QTest::newRow("unknown option") << words("--beautify /");
-    QTest::newRow("language outside") << words("--language ../x /");
-}
-
 void tst_LookCheck::cannotRun()
 {
-    QFETCH(QStringList, arguments);
-    const Run run(arguments);
-    QCOMPARE(run.status, ::cannotRun);
-    QVERIFY(run.errors.contains("lookcheck: "));
-    QVERIFY(run.output.isEmpty());
+    for (const char *arguments : {"", "/no/such/look", LOOKCHECK, "/ /", "--beautify /"}) {
+        const Run run(QString::fromLatin1(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        QVERIFY2(run.status == ::cannotRun && run.errors.contains("lookcheck: ") && run.output.isEmpty(), arguments);
+    }
 }
 
 void tst_LookCheck::hostileFiles_data()
@@ -521,35 +455,26 @@ void tst_LookCheck::hostileFiles_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<qint64>("size"); // blown up to it
     QTest::addColumn<QString>("said");
-    const auto xml = QStringLiteral("UIGraphics.xml");
-    const auto bitmap = QStringLiteral("Close.png");
-
+    const auto row = [](const char *what, const QString &name, const QByteArray &content, const char *said,
+                        qint64 size = 0) {
+        QTest::newRow(what) << name << content << size << QString::fromLatin1(said);
+    };
+    const qint64 large = qint64(100) * 1024 * 1024;
     QByteArray laughs = "<!DOCTYPE a [<!ENTITY l0 'ha'>";
     for (int i = 1; i < 30; ++i)
         laughs += QStringLiteral("<!ENTITY l%1 '&l%2;&l%2;'>").arg(i).arg(i - 1).toLatin1();
-    QTest::newRow("nested entities") << xml << laughs + "]><a><Color Name='UIGCLR_GLOW'>&l29;</Color></a>" << qint64(0)
-                                     << QStringLiteral("no effect at all");
-    QTest::newRow("100 megabytes") << xml << QByteArray("<a>") << qint64(100) * 1024 * 1024
-                                   << QStringLiteral("larger than a megabyte and was not read");
-    const int depth = 30000;
-    QByteArray deep;
-    for (int i = 0; i < depth; ++i)
-        deep += "<Color Name=\"\">x";
-    QTest::newRow("deep") << xml << deep << qint64(0) << QStringLiteral("no effect at all");
-    QTest::newRow("thousands of names") << xml
-                                        << QByteArray("<a>") +
-                                               QByteArray("<Color Name='UIGCLR_X'/>\n").repeated(20000) + "</a>"
-                                        << qint64(0) << QStringLiteral("19900 more like these");
-    QTest::newRow("bitmap bomb") << bitmap << boastingPng(60000) << qint64(0)
-                                 << QStringLiteral("no control is that large. Nothing is drawn.");
-    QTest::newRow("bitmap without content") << bitmap << boastingPng(64) << qint64(0) << QStringLiteral("is damaged");
-    QTest::newRow("giant bitmap") << bitmap << QByteArray("\x89PNG") << qint64(100) * 1024 * 1024
-                                  << QStringLiteral("larger than 16 megabytes. It was not checked.");
-    QTest::newRow("drawing") << bitmap << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>")
-                             << qint64(0) << QStringLiteral("This is an SVG drawing. It is drawn only where Qt");
-    QTest::newRow("directory's remedy") << xml + QStringLiteral("/x") << QByteArray("x") << qint64(0)
-                                        << QStringLiteral("Put a file there");
-    QTest::newRow("empty bitmap") << bitmap << QByteArray() << qint64(0) << QStringLiteral("is damaged");
+    row("nested entities", xmlFile, laughs + "]><a><Color Name='UIGCLR_GLOW'>&l29;</Color></a>", "no effect at all");
+    row("100 megabytes", xmlFile, "<a>", "larger than a megabyte and was not read", large);
+    row("deep", xmlFile, QByteArray("<Color Name=\"\">x").repeated(30000), "no effect at all");
+    row("thousands of names", xmlFile, "<a>" + QByteArray("<Color Name='UIGCLR_X'/>\n").repeated(20000) + "</a>",
+        "19900 more like these");
+    row("bitmap bomb", closeIcon, png(hugeSide), "no control is that large. Nothing is drawn.");
+    row("bitmap without content", closeIcon, png(64).left(90), "is damaged");
+    row("empty bitmap", closeIcon, "", "is damaged");
+    row("giant bitmap", closeIcon, "\x89PNG", "larger than 16 megabytes. It was not checked.", large);
+    row("drawing", closeIcon, "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>",
+        "This is an SVG drawing. It is drawn only where Qt");
+    row("directory's remedy", xmlFile + QStringLiteral("/x"), "x", "Put a file there");
 }
 
 void tst_LookCheck::hostileFiles()
@@ -574,8 +499,7 @@ void tst_LookCheck::hostileFiles()
 void tst_LookCheck::pipesAreNotWaitedFor()
 {
     const Deployment deployment;
-    const QStringList names{QStringLiteral("Close.png"), QStringLiteral("Fonts/KORZEMED.otf"),
-                            QStringLiteral("UIGraphics.xml")};
+    const QStringList names{closeIcon, fontFile, xmlFile};
     QVERIFY(QDir(deployment.path()).mkdir(QStringLiteral("Fonts")));
     QStringList expected;
     for (const QString &name : names) {
@@ -588,9 +512,7 @@ void tst_LookCheck::pipesAreNotWaitedFor()
 
 void tst_LookCheck::tableIsTheArtwork()
 {
-    QStringList table;
-    for (const LookBitmap &bitmap : lookBitmaps)
-        table.append(QString::fromUtf16(bitmap.name));
+    QStringList table = namesIn(lookBitmaps, &LookBitmap::name);
     table.sort();
     QStringList artwork;
     for (const QString &name : QDir(QStringLiteral(ARTWORK)).entryList({QStringLiteral("*.png")}))
@@ -603,38 +525,32 @@ void tst_LookCheck::tableIsTheArtwork()
 // The painters put names together from pieces. What they ask the registry for, it writes down.
 void tst_LookCheck::tableKnowsWhatPaintersAskFor()
 {
-#ifndef GALLERY
-    QSKIP("Built without the gallery");
-#else
+    if (gallery.isEmpty())
+        QSKIP("Built without the gallery");
     const QTemporaryDir directory;
     const QString log = directory.filePath(QStringLiteral("log"));
-    QProcess gallery;
+    QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral(ARTWORK));
     environment.insert(QStringLiteral("ZEL_LOG"), QStringLiteral("trace"));
     environment.insert(QStringLiteral("ZEL_LOG_FILE"), log);
-    gallery.setProcessEnvironment(environment);
-    gallery.setStandardOutputFile(QProcess::nullDevice());
-    gallery.setStandardErrorFile(QProcess::nullDevice());
-    gallery.start(QStringLiteral(GALLERY),
-                  {QStringLiteral("--pictures"), directory.filePath(QStringLiteral("pictures"))});
-    QVERIFY(gallery.waitForFinished(runLimit));
+    process.setProcessEnvironment(environment);
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(gallery, {QStringLiteral("--pictures"), directory.filePath(QStringLiteral("pictures"))});
+    QVERIFY(process.waitForFinished(runLimit));
     QFile file(log);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString records = QString::fromUtf8(file.readAll());
-    QSet<QString> known;
-    for (const LookBitmap &bitmap : lookBitmaps)
-        known.insert(QString::fromUtf16(bitmap.name));
+    const QStringList known = namesIn(lookBitmaps, &LookBitmap::name);
     QSet<QString> asked;
     static const QRegularExpression record(QStringLiteral("RetrieveFilePath\\(([^)]*\\.png)\\)"));
     for (auto matches = record.globalMatch(records); matches.hasNext();)
         asked.insert(matches.next().captured(1));
     QVERIFY(asked.size() > 50);
-    QCOMPARE(asked - known, QSet<QString>());
-#endif
+    QCOMPARE(asked - QSet<QString>(known.begin(), known.end()), QSet<QString>());
 }
 
-#ifdef GALLERY
 namespace {
 
 /** The page of --sheet. */
@@ -677,15 +593,13 @@ int pixelsOf(const QImage &image, const QColor &color)
 }
 
 } // namespace
-#endif
 
 void tst_LookCheck::sheetShowsWhatDiffers()
 {
-#ifndef GALLERY
-    QSKIP("Built without the gallery");
-#else
+    if (gallery.isEmpty())
+        QSKIP("Built without the gallery");
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), colorXml("UIGCLR_PE_PANELTIPLABEL_GRAD1", "00AA00"));
+    deployment.write(xmlFile, colorXml("UIGCLR_PE_PANELTIPLABEL_GRAD1", "00AA00"));
     for (const char *name : {"CheckboxActive.png", "RadiobuttonActive@2x.png"}) {
         QImage box(deployment.path(QLatin1String(name)));
         box.fill(Qt::red);
@@ -717,23 +631,20 @@ void tst_LookCheck::sheetShowsWhatDiffers()
     QCOMPARE(page.html.count(QStringLiteral("src=")),
              page.html.count(QStringLiteral("src=\"data:image/png;base64,iVBOR")));
     QVERIFY(!page.html.contains(QStringLiteral("href=\"http")));
-#endif
 }
 
 void tst_LookCheck::sheetOfSameLook()
 {
-#ifndef GALLERY
-    QSKIP("Built without the gallery");
-#else
+    if (gallery.isEmpty())
+        QSKIP("Built without the gallery");
     const Deployment deployment;
-    deployment.write(QStringLiteral("UIGraphics.xml"), "<a>\n<Color></a>");
+    deployment.write(xmlFile, "<a>\n<Color></a>");
     const SheetPage page(deployment);
     QCOMPARE(page.run->status, 1);
     const QString fault = QStringLiteral("UIGraphics.xml:2: The file has no effect at all: ");
     QVERIFY(page.html.contains(fault));
     QVERIFY(page.run->errors.contains(fault.toUtf8()));
     QVERIFY(page.html.contains(QStringLiteral(" specimens are drawn as in the built-in look.")));
-#endif
 }
 
 void tst_LookCheck::sheetThatCannotBe()
@@ -741,13 +652,9 @@ void tst_LookCheck::sheetThatCannotBe()
     const Deployment deployment;
     const QString page = deployment.path(QStringLiteral("sheet.html"));
     const QStringList sheet{QStringLiteral("--sheet"), page};
-    QCOMPARE(
-        Run(sheet + QStringList{QStringLiteral("--gallery"), QStringLiteral("/no/gallery"), deployment.path()}).status,
-        ::cannotRun);
-    QCOMPARE(
-        Run(sheet + QStringList{QStringLiteral("--gallery"), QStringLiteral("/bin/false"), deployment.path()}).status,
-        ::cannotRun);
-    deployment.write(QStringLiteral("Close@2x.png"), boastingPng(60000));
+    for (const char *noGallery : {"--gallery /no/gallery", "--gallery /bin/false"})
+        QCOMPARE(Run(sheet + words(noGallery) + QStringList(deployment.path())).status, ::cannotRun);
+    deployment.write(QStringLiteral("Close@2x.png"), png(hugeSide));
     const Run bomb(sheet + QStringList(deployment.path()));
     QCOMPARE(bomb.status, ::cannotRun);
     QVERIFY(bomb.errors.contains("Close@2x.png' is too large"));

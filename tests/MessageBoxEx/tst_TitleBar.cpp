@@ -99,7 +99,6 @@ class tst_TitleBar : public HouseTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void flagsShowButtons_data();
     void flagsShowButtons();
     void captionWidensTheBar();
     void paintsGradientAndCaption();
@@ -114,33 +113,25 @@ private Q_SLOTS:
     void withoutBoxOrBitmap();
 };
 
-void tst_TitleBar::flagsShowButtons_data()
-{
-    QTest::addColumn<int>("flags");
-    for (int flags = 0; flags < 8; ++flags)
-        QTest::newRow(qPrintable(QString::number(flags))) << flags;
-}
-
 void tst_TitleBar::flagsShowButtons()
 {
-    QFETCH(int, flags);
-    Box box;
-    box.bar->setMaximumHeight(30);
-    box.bar->setTitleFlags(7);
-    box.bar->setTitleFlags(flags);
-    QCOMPARE(box.bar->minimumHeight(), 30);
-    QCOMPARE(box.bar->maximumHeight(), 30);
-    box.show();
-    QCOMPARE(box.bar->size(), QSize(300, 30));
-    int right = -1;
-    for (int i = 0; i < 3; ++i) {
-        const CCustomIconButtons *button = box.button(i);
-        QCOMPARE(button->isVisible(), (flags & (1 << i)) != 0);
-        if (button->isHidden())
-            continue;
-        QVERIFY(button->x() > right && button->x() > 150);
-        QCOMPARE(button->geometry().center().y(), 14);
-        right = button->geometry().right();
+    for (int flags = 0; flags < 8; ++flags) {
+        Box box;
+        box.bar->setMaximumHeight(30);
+        box.bar->setTitleFlags(7);
+        box.bar->setTitleFlags(flags);
+        box.show();
+        QCOMPARE(box.bar->size(), QSize(300, 30));
+        int right = -1;
+        for (int i = 0; i < 3; ++i) {
+            const CCustomIconButtons *button = box.button(i);
+            QCOMPARE(button->isVisible(), (flags & (1 << i)) != 0);
+            if (button->isHidden())
+                continue;
+            QVERIFY(button->x() > right && button->x() > 150);
+            QCOMPARE(button->geometry().center().y(), 14);
+            right = button->geometry().right();
+        }
     }
 }
 
@@ -195,11 +186,10 @@ void tst_TitleBar::hardEdge()
     box.bar->setDropShadow(false);
     const QImage hard = imageOf(box.bar);
     const int first = box.bar->width() - 6;
-    const QStringList expected = {QStringLiteral("#acacac"), QStringLiteral("#acacac"), QStringLiteral("#a0a0a0"),
-                                  QStringLiteral("#808080"), QStringLiteral("#808080"), QStringLiteral("#808080")};
+    const char *const expected[] = {"#acacac", "#acacac", "#a0a0a0", "#808080", "#808080", "#808080"};
     for (int i = 0; i < 6; ++i)
         for (const int y : {0, 15, 29})
-            QCOMPARE(hard.pixelColor(first + i, y).name(), expected.at(i));
+            QCOMPARE(hard.pixelColor(first + i, y).name(), QLatin1String(expected[i]));
     QCOMPARE(hard.copy(0, 0, first, 30), soft.copy(0, 0, first, 30));
     box.bar->setDropShadow(true);
     QCOMPARE(imageOf(box.bar), soft);
@@ -269,11 +259,10 @@ void tst_TitleBar::closeTellsBoth()
 
 void tst_TitleBar::buttonMayDeleteItsBox()
 {
-    auto *box = new Box;
-    const QPointer<QWidget> guard(box);
+    const QPointer<Box> box = new Box;
     connect(box->button(closeIndex), &CCustomIconButtons::customClicked, this, [box] { delete box; });
     QTest::mouseClick(box->button(closeIndex), Qt::LeftButton);
-    QVERIFY(guard.isNull());
+    QVERIFY(box.isNull());
 }
 
 void tst_TitleBar::maximizesRestoresAndMinimizes()

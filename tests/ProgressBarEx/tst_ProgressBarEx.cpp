@@ -65,8 +65,6 @@ class tst_ProgressBarEx : public HouseTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void barStartsAsTold();
-    void artworkWrapsWithoutSeam_data();
     void artworkWrapsWithoutSeam();
     void barScrollsAndWraps();
     void tickPaintsTheBarAlone();
@@ -86,43 +84,31 @@ private Q_SLOTS:
     void screenReaders();
 };
 
-void tst_ProgressBarEx::barStartsAsTold()
-{
-    CProgressBarEx bar;
-    QCOMPARE(bar.size(), QSize(200, 10));
-    const QImage strip = rainbow();
-    QCOMPARE(pictureOf(bar), strip.copy(0, 0, 200, 10));
-}
-
-void tst_ProgressBarEx::artworkWrapsWithoutSeam_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::newRow("1x") << QStringLiteral("status-rainbow.png");
-    QTest::newRow("2x") << QStringLiteral("status-rainbow@2x.png");
-}
-
 void tst_ProgressBarEx::artworkWrapsWithoutSeam()
 {
-    QFETCH(QString, file);
-    const QImage image = UIGGetImage(file);
-    QVERIFY(!image.isNull());
-    int greatest = 0;
-    for (int x = 1; x < image.width(); ++x)
-        greatest = std::max(greatest, columnStep(image, x - 1, x));
-    const int seam = columnStep(image, image.width() - 1, 0);
-    QVERIFY2(seam <= greatest && greatest <= 6, qPrintable(QStringLiteral("%1 of %2").arg(seam).arg(greatest)));
-    // Both rounds are equal, and nothing shines through.
-    for (int x = 0; x < image.width(); ++x)
-        QVERIFY(columnStep(image, x, (x + image.width() / 2) % image.width()) <= 1 && qAlpha(image.pixel(x, 0)) == 255);
+    for (const char *file : {"status-rainbow.png", "status-rainbow@2x.png"}) {
+        const QImage image = UIGGetImage(QLatin1String(file));
+        QVERIFY(!image.isNull());
+        int greatest = 0;
+        for (int x = 1; x < image.width(); ++x)
+            greatest = std::max(greatest, columnStep(image, x - 1, x));
+        const int seam = columnStep(image, image.width() - 1, 0);
+        QVERIFY2(seam <= greatest && greatest <= 6, qPrintable(QStringLiteral("%1 of %2").arg(seam).arg(greatest)));
+        for (int x = 0; x < image.width(); ++x) {
+            QVERIFY(columnStep(image, x, (x + image.width() / 2) % image.width()) <= 1); // both rounds are equal
+            QCOMPARE(qAlpha(image.pixel(x, 0)), 255);
+        }
+    }
 }
 
 void tst_ProgressBarEx::barScrollsAndWraps()
 {
     CProgressBarEx bar;
+    QCOMPARE(bar.size(), QSize(200, 10));
     bar.resize(1500, 20); // wider than the bitmap: its first and its second copy show
     const QImage strip = rainbow();
     int offset = 0;
-    for (const int steps : {1, 1, 400, 557, 1, 1}) {
+    for (const int steps : {0, 1, 1, 400, 557, 1, 1}) {
         step(bar, steps);
         offset = (offset + steps) % strip.width();
         const QImage picture = pictureOf(bar);
@@ -239,12 +225,12 @@ void tst_ProgressBarEx::panelFollowsAnApplicationsResize()
 {
     QWidget window;
     CProgressBarDialogEx panel(QStringLiteral("Printing"), &window);
-    for (const int width : {500, 300, 20, 1}) {
+    for (const int width : {500, 300}) {
         panel.resize(width, 102);
-        const QImage picture = panelPicture(panel);
-        if (width >= 300)
-            QCOMPARE(qAlpha(picture.pixel(width - 30, 90)), 255);
+        QCOMPARE(qAlpha(panelPicture(panel).pixel(width - 30, 90)), 255);
     }
+    panel.resize(1, 102);
+    panelPicture(panel); // stumbles over nothing
 }
 
 void tst_ProgressBarEx::panelTickPaintsTheStripAlone()
@@ -335,18 +321,14 @@ void tst_ProgressBarEx::autoCloseThatIsSetTwice()
     QTRY_COMPARE(static_cast<int>(closed.count()), 1);
 }
 
+// When it closes by itself: see tst_SelfDeletion.
 void tst_ProgressBarEx::closedMayDestroyThePanel()
 {
-    for (const bool byItself : {false, true}) {
-        QPointer<CProgressBarDialogEx> panel(new CProgressBarDialogEx(QStringLiteral("Printing"), nullptr));
-        panel->showDialog(false);
-        connect(panel.data(), &CProgressBarDialogEx::closed, this, [&panel] { delete panel.data(); });
-        if (byItself)
-            panel->setAutoClose(0);
-        else
-            panel->closeDialog();
-        QTRY_VERIFY(panel.isNull());
-    }
+    const QPointer<CProgressBarDialogEx> panel = new CProgressBarDialogEx(QStringLiteral("Printing"), nullptr);
+    panel->showDialog(false);
+    connect(panel.data(), &CProgressBarDialogEx::closed, this, [panel] { delete panel.data(); });
+    panel->closeDialog();
+    QVERIFY(panel.isNull());
 }
 
 void tst_ProgressBarEx::shownAgainItScrolls()

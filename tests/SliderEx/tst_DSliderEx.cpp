@@ -20,23 +20,6 @@ QTemporaryDir logDirectory;
 constexpr QSize sliderSize(110, 30);
 constexpr int rowOfHandles = 14;
 
-/** Takes what the slider does not want. */
-class Parent : public QWidget
-{
-public:
-    QList<QEvent::Type> seen;
-
-protected:
-    bool event(QEvent *event) override
-    {
-        static const QList<QEvent::Type> wanted = {QEvent::MouseButtonPress, QEvent::MouseMove,
-                                                   QEvent::MouseButtonRelease, QEvent::Wheel, QEvent::KeyPress};
-        if (wanted.contains(event->type()))
-            seen.append(event->type());
-        return QWidget::event(event);
-    }
-};
-
 struct Part
 {
     QStyle::SubControls parts;
@@ -146,14 +129,13 @@ private Q_SLOTS:
     void cleanupTestCase() { delete m_style; }
     void startsAsTold();
     void rangeAndPositions();
-    void pressDragRelease_data();
     void pressDragRelease();
     void handlesStaySevenApart();
     void overlappingHandles_data();
     void overlappingHandles();
     void grooveMovesNothing();
     void refusals();
-    void rightButtonAndWheelReachTheParent();
+    void wheelMovesNothing();
     void keys_data();
     void keys();
     void brokenRanges_data();
@@ -162,7 +144,7 @@ private Q_SLOTS:
     void sameFromRightToLeft();
     void pointerShape();
     void assistants();
-    void destroyedByWhomItTells();
+    void mayBeDestroyedWhileAnAssistantSetsIt();
 
 private:
     SpyStyle *m_style = nullptr;
@@ -173,7 +155,6 @@ void tst_DSliderEx::startsAsTold()
     CDSliderEx slider(nullptr, Qt::WindowFlags());
     slider.setStyle(m_style);
     QCOMPARE(slider.focusPolicy(), Qt::StrongFocus);
-    QVERIFY(!slider.hasMouseTracking());
     QVERIFY(slider.minimum() == 0 && slider.maximum() == 0 && slider.sliderPosition() == 0);
     QCOMPARE(slider.sizeHint().width(), 84);
     QVERIFY(slider.sizeHint().height() >= 20); // the handle's 18 with some room
@@ -217,33 +198,22 @@ void tst_DSliderEx::rangeAndPositions()
     QCOMPARE(slider.at(0), 0);
 }
 
-void tst_DSliderEx::pressDragRelease_data()
-{
-    QTest::addColumn<int>("handle");
-    QTest::addColumn<bool>("byMiddleButton");
-    QTest::newRow("lower") << 0 << false;
-    QTest::newRow("upper") << 1 << false;
-    QTest::newRow("lower, middle button") << 0 << true;
-    QTest::newRow("upper, middle button") << 1 << true;
-}
-
 void tst_DSliderEx::pressDragRelease()
 {
-    QFETCH(int, handle);
-    QFETCH(bool, byMiddleButton);
-    const Qt::MouseButton button = byMiddleButton ? Qt::MiddleButton : Qt::LeftButton;
-    Recorded slider(m_style);
-    QTest::mousePress(&slider, button, Qt::NoModifier, slider.on(handle));
-    QVERIFY(slider.told.isEmpty());
-    QVERIFY(drag(slider, 40 + 3, button) && drag(slider, 50 + 3, button));
-    QTest::mouseRelease(&slider, button, Qt::NoModifier, QPoint(50 + 3, rowOfHandles));
-    QCOMPARE(slider.takeTold(), QStringLiteral("%1 to 40, %1 to 50, %1 let go at 50").arg(handle));
-    QCOMPARE(slider.at(1 - handle), handle == 0 ? 80 : 20);
-    drag(slider, handle == 0 ? -500 : 500, button); // far out, and the button still held
-    QCOMPARE(slider.takeTold(), handle == 0 ? QStringLiteral("0 to 0") : QStringLiteral("1 to 100"));
-    QTest::keyClick(&slider, Qt::Key_Left); // on the handle that was dragged
-    QCOMPARE(slider.takeTold(),
-             handle == 0 ? QStringLiteral("0 let go at 0") : QStringLiteral("1 to 99, 1 let go at 99"));
+    for (const auto &[handle, button] : {std::pair(0, Qt::LeftButton), {1, Qt::MiddleButton}}) {
+        Recorded slider(m_style);
+        QTest::mousePress(&slider, button, Qt::NoModifier, slider.on(handle));
+        QVERIFY(slider.told.isEmpty());
+        QVERIFY(drag(slider, 40 + 3, button) && drag(slider, 50 + 3, button));
+        QTest::mouseRelease(&slider, button, Qt::NoModifier, QPoint(50 + 3, rowOfHandles));
+        QCOMPARE(slider.takeTold(), QStringLiteral("%1 to 40, %1 to 50, %1 let go at 50").arg(handle));
+        QCOMPARE(slider.at(1 - handle), handle == 0 ? 80 : 20);
+        drag(slider, handle == 0 ? -500 : 500, button); // far out, and the button still held
+        QCOMPARE(slider.takeTold(), handle == 0 ? QStringLiteral("0 to 0") : QStringLiteral("1 to 100"));
+        QTest::keyClick(&slider, Qt::Key_Left); // on the handle that was dragged
+        QCOMPARE(slider.takeTold(),
+                 handle == 0 ? QStringLiteral("0 let go at 0") : QStringLiteral("1 to 99, 1 let go at 99"));
+    }
 }
 
 void tst_DSliderEx::handlesStaySevenApart()
@@ -286,8 +256,6 @@ void tst_DSliderEx::overlappingHandles_data()
     QTest::newRow("across the middle") << 0 << 100 << 49 << 54 << 1;
     QTest::newRow("in the middle") << 0 << 100 << 50 << 50 << 1;
     QTest::newRow("above the middle") << 0 << 100 << 51 << 51 << 0;
-    QTest::newRow("bottom") << 0 << 100 << 0 << 0 << 1;
-    QTest::newRow("top") << 0 << 100 << 100 << 100 << 0;
     QTest::newRow("odd range, half is cut") << 0 << 101 << 51 << 52 << 0;
     QTest::newRow("below the own minimum") << 30 << 100 << 20 << 22 << -1;
     QTest::newRow("halved by the own minimum") << 30 << 100 << 36 << 38 << 0;
@@ -310,8 +278,7 @@ void tst_DSliderEx::overlappingHandles()
     slider.setSliderPosition(0, lower);
     if (!lowerIsNamedLast)
         slider.setSliderPosition(1, upper);
-    // On both.
-    press(slider, slider.on(1).x());
+    press(slider, slider.on(1).x()); // on both
     slider.takeTold();
     QTest::keyClick(&slider, Qt::Key_Shift);
     const int active = taken == 1 ? 1 : 0;
@@ -373,15 +340,9 @@ void tst_DSliderEx::refusals()
     QCOMPARE(lastRecords().last(), refusal);
 }
 
-void tst_DSliderEx::rightButtonAndWheelReachTheParent()
+void tst_DSliderEx::wheelMovesNothing()
 {
-    Parent parent;
-    Recorded slider(m_style, 20, 80, &parent);
-    parent.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&parent));
-    QTest::mousePress(&slider, Qt::RightButton, Qt::NoModifier, slider.on(0));
-    QCOMPARE(parent.seen, QList<QEvent::Type>({QEvent::MouseButtonPress}));
-    QTest::mouseRelease(&slider, Qt::RightButton, Qt::NoModifier, slider.on(0));
+    Recorded slider(m_style);
     slider.takeTold();
     const QPointF point(slider.on(0));
     QWheelEvent wheel(point, slider.mapToGlobal(point.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
@@ -404,30 +365,22 @@ void tst_DSliderEx::keys_data()
     row("0 down", 20, 40, 0, Qt::Key_Down, 19);
     row("0 left at the start", 0, 40, 0, Qt::Key_Left, 0);
     row("0 left above the other", 50, 40, 0, Qt::Key_Left, 50);
-    row("0 left at the other", 40, 40, 0, Qt::Key_Left, 40);
     row("0 right", 32, 40, 0, Qt::Key_Right, 33);
     row("0 right at the other", 33, 40, 0, Qt::Key_Right, 33);
     row("0 up", 20, 40, 0, Qt::Key_Up, 21);
-    row("0 page down", 20, 40, 0, Qt::Key_PageDown, 10);
     row("0 page down to the start", 4, 40, 0, Qt::Key_PageDown, 0);
     row("0 page down above the other", 50, 40, 0, Qt::Key_PageDown, 40);
     row("0 page up", 20, 40, 0, Qt::Key_PageUp, 30);
     row("0 page up to the other", 25, 40, 0, Qt::Key_PageUp, 33);
-    row("0 page up at the other", 33, 40, 0, Qt::Key_PageUp, 33);
     row("1 left", 20, 28, 1, Qt::Key_Left, 27);
     row("1 left at the other", 20, 27, 1, Qt::Key_Left, 27);
-    row("1 down", 20, 40, 1, Qt::Key_Down, 39);
     row("1 left at the start", -20, 0, 1, Qt::Key_Left, 0);
-    row("1 right", 20, 40, 1, Qt::Key_Right, 41);
     row("1 right at the end", 20, 100, 1, Qt::Key_Right, 100);
     row("1 up near the other", 20, 21, 1, Qt::Key_Up, 22);
     row("1 page down", 20, 40, 1, Qt::Key_PageDown, 30);
     row("1 page down to the other", 20, 33, 1, Qt::Key_PageDown, 27);
-    row("1 page down at the other", 20, 27, 1, Qt::Key_PageDown, 27);
-    row("1 page up", 20, 40, 1, Qt::Key_PageUp, 50);
     row("1 page up to the end", 20, 95, 1, Qt::Key_PageUp, 100);
     row("0 home", 20, 40, 0, Qt::Key_Home, -1); // not a key of the slider
-    row("1 letter", 20, 40, 1, Qt::Key_A, -1);
 }
 
 void tst_DSliderEx::keys()
@@ -458,12 +411,10 @@ void tst_DSliderEx::brokenRanges_data()
     constexpr int least = std::numeric_limits<int>::min();
     constexpr int most = std::numeric_limits<int>::max();
     QTest::newRow("empty") << 0 << 0 << 0;
-    QTest::newRow("reversed") << -5 << 0 << -5;
     QTest::newRow("reversed, far") << least << 0 << least;
     QTest::newRow("narrower than the gap") << 5 << 0 << 5;
     QTest::newRow("huge") << most << 0 << most;
     QTest::newRow("positions far out") << 100 << most << least;
-    QTest::newRow("positions far out, in order") << 100 << least << most;
 }
 
 void tst_DSliderEx::brokenRanges()
@@ -591,17 +542,13 @@ void tst_DSliderEx::assistants()
     QVERIFY(slider.at(0) == 20 && whole->child(0)->state().disabled);
 }
 
-void tst_DSliderEx::destroyedByWhomItTells()
+// By pointer and keys: see tst_SelfDeletion.
+void tst_DSliderEx::mayBeDestroyedWhileAnAssistantSetsIt()
 {
-    const auto destroyedBy = [this](auto &&act) {
-        QPointer<Recorded> slider = new Recorded(m_style);
-        connect(
-            slider.data(), &CDSliderEx::valueChanged, this, [slider] { delete slider.data(); });
-        act(*slider);
-        return slider.isNull();
-    };
-    QVERIFY(destroyedBy([](CDSliderEx &slider) { QTest::keyPress(&slider, Qt::Key_Right); }));
-    QVERIFY(destroyedBy([](Recorded &slider) { slider.handle(0)->valueInterface()->setCurrentValue(30); }));
+    const QPointer<Recorded> slider = new Recorded(m_style);
+    connect(slider.data(), &CDSliderEx::valueChanged, this, [slider] { delete slider.data(); });
+    slider->handle(0)->valueInterface()->setCurrentValue(30);
+    QVERIFY(slider.isNull());
 }
 
 HOUSE_TEST_MAIN(tst_DSliderEx)

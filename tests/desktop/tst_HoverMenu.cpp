@@ -1,14 +1,12 @@
 // The glowing button and its menu under a real pointer, in real windows.
-#include "desktop/RealPointer.h"
+#include "RealPointer.h"
 #include "helpers/HouseTest.h"
 
 #include "ButtonEx/ButtonEx.h"
 #include "MenuEx/MenuEx.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QScreen>
 #include <QSignalSpy>
 
 namespace {
@@ -45,7 +43,6 @@ private:
         return m_menu->mapToGlobal(m_menu->actionGeometry(m_menu->actions().at(index)).center());
     }
     QPoint away() const { return m_window->mapToGlobal(QPoint(20, 20)); }
-    void takePicture(const char *step) const;
 
     std::unique_ptr<QWidget> m_window;
     CButtonEx *m_button = nullptr;
@@ -78,8 +75,7 @@ void tst_HoverMenu::init()
     m_other = addButton(400, m_otherMenu);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    RealPointer::moveTo(away());
-    RealPointer::click(1);
+    RealPointer::clickAt(away());
     QTRY_VERIFY(QApplication::activeWindow() == m_window.get());
 }
 
@@ -89,27 +85,14 @@ void tst_HoverMenu::cleanup()
     HouseTest::cleanup();
 }
 
-// For eyes: with TST_PICTURES set to a directory, each step leaves a picture of the screen there.
-void tst_HoverMenu::takePicture(const char *step) const
-{
-    const QString directory = qEnvironmentVariable("TST_PICTURES");
-    if (directory.isEmpty())
-        return;
-    QVERIFY(QApplication::primaryScreen()->grabWindow(0).save(QDir(directory).filePath(
-        QStringLiteral("%1-%2.png").arg(QLatin1String(QTest::currentTestFunction()), QLatin1String(step)))));
-}
-
 void tst_HoverMenu::unrollsUnderThePointerAndClosesByItself()
 {
-    takePicture("0-rest");
     RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(m_menu->isVisible());
     QVERIFY(m_menu->height() < m_menu->sizeHint().height());
     QTRY_VERIFY(m_menu->height() > m_menu->sizeHint().height() / 2);
-    takePicture("1-unrolling");
     QTRY_VERIFY(isUnrolled(*m_menu));
     QTRY_VERIFY(m_button->getGlowAlpha() > 0.95F);
-    takePicture("2-open");
 
     QElapsedTimer clock;
     clock.start();
@@ -117,7 +100,6 @@ void tst_HoverMenu::unrollsUnderThePointerAndClosesByItself()
     QTRY_VERIFY_WITH_TIMEOUT(!m_menu->isVisible(), 4000);
     QVERIFY2(clock.elapsed() >= 1000, qPrintable(QString::number(clock.elapsed())));
     QTRY_VERIFY(m_button->getGlowAlpha() < 0.05F);
-    takePicture("3-closed");
 }
 
 void tst_HoverMenu::staysUnderThePointer()
@@ -127,10 +109,7 @@ void tst_HoverMenu::staysUnderThePointer()
     RealPointer::moveTo(entry(3));
     QTRY_VERIFY(m_menu->cursorOnMenu());
     QTRY_COMPARE(m_menu->activeAction(), m_menu->actions().at(3));
-    takePicture("1-on-menu");
     VERIFY_HOLDS_FOR(m_menu->isVisible(), 2000);
-    RealPointer::moveTo(away());
-    QTRY_VERIFY_WITH_TIMEOUT(!m_menu->isVisible(), 4000);
 }
 
 void tst_HoverMenu::entryIsChosenByClick()
@@ -154,12 +133,10 @@ void tst_HoverMenu::pressClosesIt()
     QTRY_VERIFY(isUnrolled(*m_menu));
     // A press beside both closes it, as it does any menu; one on the button also keeps it away until the mouse has
     // left.
-    RealPointer::moveTo(away());
-    RealPointer::click(1);
+    RealPointer::clickAt(away());
     QTRY_VERIFY(!m_menu->isVisible());
     RealPointer::moveTo(freeCornerOf(*m_button));
     QTRY_VERIFY(isUnrolled(*m_menu));
-    QTRY_VERIFY(m_menu->isVisible());
     const QSignalSpy clicked(m_button, &CButtonEx::clicked2);
     RealPointer::click(1);
     QTRY_VERIFY(!m_menu->isVisible());
@@ -168,7 +145,6 @@ void tst_HoverMenu::pressClosesIt()
     for (int i = 1; i < 6; ++i)
         RealPointer::moveTo(freeCornerOf(*m_button) - QPoint(i, i));
     VERIFY_HOLDS_FOR(!m_menu->isVisible(), 500);
-    takePicture("pressed");
     RealPointer::moveTo(away());
     QTRY_VERIFY(!m_button->underMouse());
     RealPointer::moveTo(freeCornerOf(*m_button));
@@ -182,7 +158,6 @@ void tst_HoverMenu::otherButtonTakesOver()
     RealPointer::moveTo(freeCornerOf(*m_other));
     QTRY_VERIFY_WITH_TIMEOUT(m_otherMenu->isVisible(), 5000);
     QVERIFY(!m_menu->isVisible());
-    takePicture("1-other");
 }
 
 HOUSE_TEST_MAIN(tst_HoverMenu)

@@ -9,9 +9,7 @@
 #include "MessageBoxEx/TitleBar/CustomIconButtons.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QPainter>
-#include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
@@ -26,7 +24,7 @@ constexpr int pureColumns = 3; // at the right of a box, beyond its shadow
 void clickOn(const QWidget *widget)
 {
     QVERIFY(widget != nullptr);
-    RealPointer::clickAt(widget->mapToGlobal(widget->rect().center()));
+    RealPointer::clickAt(RealPointer::middleOf(widget));
 }
 
 // Every point has a colour of its own, so that a picture that is off by one shows.
@@ -100,7 +98,6 @@ private Q_SLOTS:
     void showsWhatLiesBehindWhereverItIs();
     void titleBarDragMovesIt();
     void edgesResize();
-    void keys();
     void titleButtonsWork();
     void everyFormIsClickedThrough_data();
     void everyFormIsClickedThrough();
@@ -108,16 +105,15 @@ private Q_SLOTS:
 private:
     using Action = std::function<void(CMessageBoxEx &)>;
 
-    std::unique_ptr<CMessageBoxEx> makeBox(int button0 = QMessageBox::Ok, int button1 = 0, int button2 = 0)
+    std::unique_ptr<CMessageBoxEx> makeBox()
     {
         auto box = std::make_unique<CMessageBoxEx>(
             m_window.get(), QStringLiteral("Print"), QStringLiteral("There is no paper in the printer"),
-            QStringLiteral("Put paper in and try again."), QString(), button0, button1, button2);
-        box->setButtonText(button0, QStringLiteral("First"));
+            QStringLiteral("Put paper in and try again."), QString(), QMessageBox::Ok);
+        box->setButtonText(QMessageBox::Ok, QStringLiteral("First"));
         return box;
     }
     int show(CMessageBoxEx &box, const Action &act);
-    void takePicture(const char *step) const;
 
     std::unique_ptr<QWidget> m_window;
 };
@@ -159,28 +155,16 @@ int tst_MessageBox::show(CMessageBoxEx &box, const Action &act)
     return box.showDialog();
 }
 
-// For eyes: with TST_PICTURES set to a directory, each step leaves a picture of the screen there.
-void tst_MessageBox::takePicture(const char *step) const
-{
-    const QString directory = qEnvironmentVariable("TST_PICTURES");
-    if (directory.isEmpty())
-        return;
-    QVERIFY(screenPicture().save(QDir(directory).filePath(
-        QStringLiteral("%1-%2.png").arg(QLatin1String(QTest::currentTestFunction()), QLatin1String(step)))));
-}
-
 void tst_MessageBox::showsWhatLiesBehindWhereverItIs()
 {
     const auto box = makeBox();
-    show(*box, [this](CMessageBoxEx &shown) {
+    show(*box, [](CMessageBoxEx &shown) {
         QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
-        takePicture("0-centre");
         for (const QPoint &place : {QPoint(137, 211), QPoint(731, 513)}) {
             shown.move(place);
             QTRY_COMPARE(shown.pos(), place);
             QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
         }
-        takePicture("1-moved");
     });
 }
 
@@ -203,7 +187,6 @@ void tst_MessageBox::titleBarDragMovesIt()
         QTRY_COMPARE(shown.pos(), before + QPoint(140, 80));
         QVERIFY(moved.count() > movesBefore);
         QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
-        takePicture("dragged");
         clickOn(buttonOf(shown, QStringLiteral("First"))); // the drag took nothing of the next click
     });
     QCOMPARE(result, int(QMessageBox::Ok));
@@ -213,7 +196,7 @@ void tst_MessageBox::edgesResize()
 {
     const auto box = makeBox();
     box->setResizeable(true);
-    show(*box, [this](CMessageBoxEx &shown) {
+    show(*box, [](CMessageBoxEx &shown) {
         const auto dragEdge = [&shown](const QPoint &fromBottomRight, const QPoint &way) {
             const QPoint start = shown.mapToGlobal(shown.rect().bottomRight() - fromBottomRight);
             RealPointer::moveTo(start - QPoint(40, 40));
@@ -230,13 +213,6 @@ void tst_MessageBox::edgesResize()
         dragEdge(QPoint(7, 60), QPoint(60, 30));
         QVERIFY(qAbs(shown.width() - smallest.width() - 60) <= 5);
         QCOMPARE(shown.height(), smallest.height());
-        const QSize wide = shown.size();
-        dragEdge(QPoint(60, 6), QPoint(30, 50));
-        QCOMPARE(shown.width(), wide.width());
-        QVERIFY(qAbs(shown.height() - wide.height() - 50) <= 6);
-        dragEdge(QPoint(7, 6), QPoint(40, 30));
-        QVERIFY(shown.width() > wide.width() + 30 && shown.height() > wide.height() + 70);
-        takePicture("large");
         QTRY_VERIFY_WITH_TIMEOUT(showsPatternBehind(shown), 20000);
         dragEdge(QPoint(7, 6), QPoint(-400, -300));
         QCOMPARE(shown.size(), smallest);
@@ -244,22 +220,6 @@ void tst_MessageBox::edgesResize()
         dragEdge(QPoint(60, 6), QPoint(0, 900));
         QCOMPARE(shown.geometry().bottom(), shown.screen()->availableGeometry().bottom());
     });
-}
-
-void tst_MessageBox::keys()
-{
-    const auto box = makeBox(QMessageBox::Yes, QMessageBox::No | QMessageBox::Default);
-    const QSignalSpy escapes(box.get(), &CMessageBoxEx::signal_EscapePressed);
-    const int result = show(*box, [&](CMessageBoxEx &shown) {
-        RealPointer::key("Escape");
-        QTRY_COMPARE(int(escapes.count()), 1);
-        VERIFY_HOLDS_FOR(shown.isVisible(), 200);
-        QVERIFY(!buttonOf(shown, QStringLiteral("First"))->hasFocus());
-        RealPointer::key("Tab");
-        QTRY_VERIFY(buttonOf(shown, QStringLiteral("First"))->hasFocus());
-        RealPointer::key("Return");
-    });
-    QCOMPARE(result, int(QMessageBox::Yes));
 }
 
 void tst_MessageBox::titleButtonsWork()
@@ -271,13 +231,12 @@ void tst_MessageBox::titleButtonsWork()
         box.get(), &CMessageBoxEx::signal_CloseEvent, this, [&record] { record.append(QStringLiteral("close")); });
     connect(box.get(), &CMessageBoxEx::signal_MesssageBoxClosed, this,
             [&record] { record.append(QStringLiteral("closed")); });
-    const int result = show(*box, [this](CMessageBoxEx &shown) {
+    const int result = show(*box, [](CMessageBoxEx &shown) {
         const QRect before = shown.geometry();
         QCOMPARE(int(titleButtons(shown).size()), 3);
         clickOn(titleButtons(shown).at(1));
         QTRY_COMPARE(shown.size(), shown.maximumSize());
         QTRY_COMPARE(shown.pos(), shown.screen()->availableGeometry().topLeft());
-        takePicture("maximized");
         clickOn(titleButtons(shown).at(1));
         QTRY_COMPARE(shown.geometry(), before);
         clickOn(titleButtons(shown).at(2));
@@ -323,7 +282,6 @@ void tst_MessageBox::everyFormIsClickedThrough()
     const QSignalSpy popups(&box, &CMessageBoxEx::Popup_Notify);
     const QSignalSpy links(&box, &CMessageBoxEx::signal_HelpLinkClicked);
     const int result = show(box, [&](CMessageBoxEx &shown) {
-        takePicture(qPrintable(QString::number(form)));
         clickOn(buttonOf(shown, QStringLiteral("Options")));
         QTRY_COMPARE(int(popups.count()), 1);
         if (auto *check = shown.findChild<CCheckBoxEx *>()) {
