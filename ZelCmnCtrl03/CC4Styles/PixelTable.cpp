@@ -84,11 +84,12 @@ void drawComposed(QPainter *painter, const QRect &rect, const Operation *operati
     if (image.isNull())
         return;
     image.fill(Qt::transparent);
-    forEach(image.rect(), operations, count, [&image](const QRect &pixels, const QColor &color, const Ink &) {
-        for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-            QRgb *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-            std::fill(line + pixels.left(), line + pixels.right() + 1, color.rgb());
-        }
+    auto *const first = reinterpret_cast<QRgb *>(image.bits());
+    const int width = image.bytesPerLine() / int(sizeof(QRgb));
+    forEach(image.rect(), operations, count, [=](const QRect &pixels, const QColor &color, const Ink &) {
+        const QRgb rgb = color.rgb();
+        for (int y = pixels.top(); y <= pixels.bottom(); ++y)
+            std::fill_n(first + y * width + pixels.left(), pixels.width(), rgb);
     });
     painter->drawImage(rect.topLeft(), image);
 }
