@@ -34,7 +34,7 @@ class ZELCMNCTRL_EXPORT CButtonEx : public QPushButton
     Q_PROPERTY(QString buttonStyle READ getButtonStyle WRITE setButtonStyle DESIGNABLE false)
     /** The same look as an enumerator, for editors that offer a choice. */
     Q_PROPERTY(CButtonStyles look READ buttonStyle WRITE setButtonStyle)
-    /** The text colour of the transparent look; see setTextColor(). */
+    /** The text colour of the transparent and the glowing look; see setTextColor(). */
     Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
     /** Whether a small arrow promises a menu; see setChevron(). */
     Q_PROPERTY(bool chevron READ chevron WRITE setChevron)
@@ -93,7 +93,7 @@ public:
     /** The font of the label: until setFont() the house font of the language. */
     const QFont &font() const { return m_font; }
 
-    /** The text colour of the transparent look; white at first. Shows with the next repaint. */
+    /** The text colour of the transparent and the glowing look; white at first. Shows with the next repaint. */
     void setTextColor(const QColor &color);
     /** The text colour of the transparent look, whatever look the button has. */
     const QColor &textColor() const { return m_textColor; }

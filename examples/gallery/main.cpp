@@ -9,7 +9,9 @@
 #include <ZelCUtil03/ZelCUtil.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QStyleFactory>
 #include <QTextStream>
 #include <QTranslator>
@@ -78,6 +80,17 @@ int takePictures(const gallery::GalleryOptions &options)
     return gallery::saveSpecimens(wanted, settings, options.picturesDirectory);
 }
 
+// The library goes on without bitmaps and says nothing, which is not what anybody wants to see here.
+void warnOfGraphicsDirectory()
+{
+    const QString directory = qEnvironmentVariable("ZEL_GRAPHICS_DIR");
+    if (directory.isEmpty() || QFileInfo(directory).isDir())
+        return;
+    QTextStream(stderr) << "zel_gallery: ZEL_GRAPHICS_DIR is '" << directory
+                        << "', which is no directory, so there will be no bitmaps. Unset it, or give a directory such "
+                           "as share/zelcmnctrl03/graphics.\n";
+}
+
 int showHelp(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv); // no display needed for this
@@ -99,6 +112,8 @@ int main(int argc, char *argv[])
 
     gallery::GalleryOptions options = parsed.options;
     gallery::applyToEnvironment(options);
+    warnOfGraphicsDirectory();
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); // message boxes tell of their buttons
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif

@@ -97,7 +97,8 @@ PageDescription menusPage()
             {QStringLiteral("A window with a menu bar"),
              QStringLiteral("Its menus are of Qt's own kind. One is longer than most screens, one is disabled."),
              table(barRows, barStates)},
-            {QStringLiteral("Menus of the bar"), QStringLiteral("Titled separators, and choices of one of several."),
+            {QStringLiteral("Menus of the bar"),
+             QStringLiteral("Separators, with a title that this look does not show, and choices of one of several."),
              table(barMenuRows, barMenuStates)},
         }};
 }
