@@ -62,6 +62,7 @@ private Q_SLOTS:
     void cleanupTestCase() { CC4StyleFactory::releaseStyle(CC4StyleFactory::CC4Style); }
     void dialogStartsAsTold();
     void dialogForwards();
+    void dialogWithoutItsParts();
     void dialogShape();
     void dialogClosesOnEscape();
     void dialogTellsScreenReaders();
@@ -115,6 +116,22 @@ void tst_ProgressDialogs::dialogForwards()
     QCOMPARE(detailsOf([&] { dialog.setValue(dialog.maximum()); }),
              QStringList() << QStringLiteral("CProgressDialogEx::maximum - m_ProgressBar != NULL")
                            << QStringLiteral("CProgressDialogEx::setValue"));
+}
+
+void tst_ProgressDialogs::dialogWithoutItsParts()
+{
+    CProgressDialogEx dialog;
+    delete dialog.findChild<QLabel *>(QStringLiteral("m_lblMessage"));
+    delete dialog.findChild<QProgressBar *>(QStringLiteral("m_ProgressBar"));
+    dialog.setText(QStringLiteral("nowhere"));
+    dialog.setRange(1, 2);
+    dialog.setMinimum(1);
+    dialog.setMaximum(2);
+    dialog.setValue(1);
+    dialog.reset();
+    QVERIFY(dialog.text().isEmpty() && dialog.minimum() == -1 && dialog.maximum() == -1);
+    QCOMPARE(detailsOf([&] { QCOMPARE(dialog.value(), -1); }),
+             QStringList(QStringLiteral("CProgressDialogEx::value - m_ProgressBar = NULL")));
 }
 
 void tst_ProgressDialogs::dialogShape()
