@@ -71,8 +71,7 @@ class tst_StyleMetrics : public HouseTest
 
 private Q_SLOTS:
     void initTestCase();
-    void metricsOnTopOfTheBase();
-    void gridLinesAreOpaque();
+    void metricsAndHints();
     void sizes();
     void visualAlignment();
     void spinBoxLayout_data();
@@ -95,19 +94,41 @@ void tst_StyleMetrics::initTestCase()
     QVERIFY(m_style != nullptr);
 }
 
-// What the base has is enough where it is more.
-void tst_StyleMetrics::metricsOnTopOfTheBase()
+void tst_StyleMetrics::metricsAndHints()
 {
+    const struct
+    {
+        QStyle::PixelMetric metric;
+        int answer;
+    } metrics[] = {{QStyle::PM_ComboBoxFrameWidth, 8},
+                   {QStyle::PM_TabBarTabHSpace, 20},
+                   {QStyle::PM_TabBarTabVSpace, 5},
+                   {QStyle::PM_TabBarBaseHeight, 10},
+                   {QStyle::PM_SplitterWidth, 9},
+                   {QStyle::PM_IndicatorWidth, 16},
+                   {QStyle::PM_IndicatorHeight, 16},
+                   {QStyle::PM_ExclusiveIndicatorWidth, 18},
+                   {QStyle::PM_ExclusiveIndicatorHeight, 18},
+                   {QStyle::PM_ListViewIconSize, 90}};
+    for (const auto &entry : metrics)
+        QCOMPARE(m_style->pixelMetric(entry.metric), entry.answer);
     const QStyle *base = m_style->baseStyle();
     QCOMPARE(m_style->pixelMetric(QStyle::PM_ScrollBarExtent),
              std::max(21, base->pixelMetric(QStyle::PM_ScrollBarExtent) + 4));
     QCOMPARE(m_style->pixelMetric(QStyle::PM_MenuPanelWidth),
              std::max(2, base->pixelMetric(QStyle::PM_MenuPanelWidth)));
-}
-
-void tst_StyleMetrics::gridLinesAreOpaque()
-{
-    QCOMPARE(m_style->styleHint(QStyle::SH_Table_GridLineColor), static_cast<int>(0xFFEEEEFF));
+    const struct
+    {
+        QStyle::StyleHint hint;
+        int answer;
+    } hints[] = {{QStyle::SH_EtchDisabledText, 1},
+                 {QStyle::SH_DitherDisabledText, 0},
+                 {QStyle::SH_Table_GridLineColor, static_cast<int>(0xFFEEEEFF)}, // opaque
+                 {QStyle::SH_UnderlineShortcut, 1},
+                 {QStyle::SH_ItemView_ShowDecorationSelected, 1},
+                 {QStyle::SH_ToolTipLabel_Opacity, 255}};
+    for (const auto &entry : hints)
+        QCOMPARE(m_style->styleHint(entry.hint), entry.answer);
 }
 
 void tst_StyleMetrics::sizes()
