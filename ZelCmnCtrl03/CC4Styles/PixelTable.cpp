@@ -85,7 +85,7 @@ void drawComposed(QPainter *painter, const QRect &rect, const Operation *operati
         return;
     image.fill(Qt::transparent);
     auto *const first = reinterpret_cast<QRgb *>(image.bits());
-    const int width = image.bytesPerLine() / int(sizeof(QRgb));
+    const qptrdiff width = image.bytesPerLine() / qptrdiff(sizeof(QRgb));
     forEach(image.rect(), operations, count, [=](const QRect &pixels, const QColor &color, const Ink &) {
         const QRgb rgb = color.rgb();
         for (int y = pixels.top(); y <= pixels.bottom(); ++y)

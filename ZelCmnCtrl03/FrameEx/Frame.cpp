@@ -7,6 +7,8 @@
 #include <QAccessibleWidget>
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 QAccessibleInterface *makeInterface(const QString &className, QObject *object)
@@ -28,11 +30,10 @@ CFrame::~CFrame()
     ZEL_LOG_SCOPE;
 }
 
-// By value in the public interface. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void CFrame::SetGradientFrame(QColor color)
 {
     ZEL_LOG_SCOPE;
-    m_lineColor = color;
+    m_lineColor = std::move(color);
 }
 
 // An invalid colour counts as black, as it does in a gradient.
