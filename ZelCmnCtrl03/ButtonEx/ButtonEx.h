@@ -95,7 +95,7 @@ public:
 
     /** The text colour of the transparent and the glowing look; white at first. Shows with the next repaint. */
     void setTextColor(const QColor &color);
-    /** The text colour of the transparent look, whatever look the button has. */
+    /** The text colour of these two looks, whatever look the button has. */
     const QColor &textColor() const { return m_textColor; }
 
     /** A small arrow that promises a menu, for the glowing and the transparent look. Shows with the next repaint. */

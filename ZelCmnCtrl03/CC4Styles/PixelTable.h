@@ -76,8 +76,7 @@ void draw(QPainter *painter, const QRect &rect, const Operation (&operations)[co
     draw(painter, rect, operations, count, alphas);
 }
 
-/** As draw(), several times faster where many operations share a small place. For opaque inks: an alpha counts as none.
- */
+/** As draw(), several times faster where many operations share a small place. All inks count as opaque. */
 void drawComposed(QPainter *painter, const QRect &rect, const Operation *operations, std::size_t count);
 
 template <std::size_t count>

@@ -6,7 +6,6 @@
 #include "CC4Styles/CC4StyleFactory.h"
 #include "UiGraphics/Deployment.h"
 
-#include <QBuffer>
 #include <QPixmapCache>
 #include <QRegularExpression>
 
@@ -44,19 +43,6 @@ QByteArray billionLaughs()
     for (int i = 1; i < 30; ++i)
         entities += QStringLiteral("<!ENTITY l%1 '&l%2;&l%2;'>").arg(i).arg(i - 1).toLatin1();
     return entities + "]><a>&l29;" + override + "</a>";
-}
-
-constexpr int hugeSide = 9000; // some kilobytes as a file, some hundred megabytes as a pixmap
-
-QByteArray png(int side)
-{
-    QImage image(side, side, QImage::Format_Mono);
-    image.fill(1);
-    QByteArray file;
-    QBuffer buffer(&file);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
-    return file;
 }
 
 QStringList artwork()
@@ -213,9 +199,9 @@ void tst_LookFaults::bitmap_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("isRefused");
-    QTest::newRow("truncated") << png(64).left(90) << false;
-    QTest::newRow("huge") << png(hugeSide) << true;
-    QTest::newRow("huge and truncated") << png(hugeSide).left(1000) << true;
+    QTest::newRow("truncated") << Picture::png(64).left(90) << false;
+    QTest::newRow("huge") << Picture::png(Picture::hugeSide) << true;
+    QTest::newRow("huge and truncated") << Picture::png(Picture::hugeSide).left(1000) << true;
     QTest::newRow("huge by its own account") << QByteArray("P6 60000 60000 255\nabc") << false;
     QTest::newRow("empty") << QByteArray() << false;
     QTest::newRow("no bitmap") << QByteArray("<html/>") << false;
@@ -287,7 +273,7 @@ void tst_LookFaults::everyPageIsPainted()
     QVERIFY2(pages.size() >= 20, qPrintable(pages.join(QLatin1Char('\n'))));
     Deployment deployment;
     deployment.set(QStringLiteral("ZEL_LOG"), QStringLiteral("warning"));
-    for (const QByteArray &bitmap : {png(hugeSide), QByteArray("P6 1 1 255\nabc")}) {
+    for (const QByteArray &bitmap : {Picture::png(Picture::hugeSide), QByteArray("P6 1 1 255\nabc")}) {
         for (const QString &name : artwork())
             deployment.write(name, bitmap);
         QCOMPARE(paintedPages(deployment), pages);

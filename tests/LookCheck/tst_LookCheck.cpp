@@ -6,7 +6,6 @@
 #include "UiGraphicsColors.h"
 #include "UiGraphicsFonts.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
@@ -135,19 +134,6 @@ public:
 private:
     QTemporaryDir m_directory;
 };
-
-constexpr int hugeSide = 9000; // a hundred kilobytes as a file, some hundred megabytes as a pixmap
-
-QByteArray png(int side)
-{
-    QImage image(side, side, QImage::Format_Mono);
-    image.fill(1);
-    QByteArray file;
-    QBuffer buffer(&file);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
-    return file;
-}
 
 QByteArray colorXml(const char *name, const char *text)
 {
@@ -505,8 +491,8 @@ void tst_LookCheck::hostileFiles_data()
     row("deep", xmlFile, QByteArray("<Color Name=\"\">x").repeated(30000), "no effect at all");
     row("thousands of names", xmlFile, "<a>" + QByteArray("<Color Name='UIGCLR_X'/>\n").repeated(20000) + "</a>",
         "19900 more like these");
-    row("bitmap bomb", closeIcon, png(hugeSide), "no control is that large. Nothing is drawn.");
-    row("bitmap without content", closeIcon, png(64).left(90), "is damaged");
+    row("bitmap bomb", closeIcon, Picture::png(Picture::hugeSide), "no control is that large. Nothing is drawn.");
+    row("bitmap without content", closeIcon, Picture::png(64).left(90), "is damaged");
     row("empty bitmap", closeIcon, "", "is damaged");
     row("giant bitmap", closeIcon, "\x89PNG", "larger than 16 megabytes. It was not checked.", large);
     row("drawing", closeIcon, "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>",
@@ -691,7 +677,7 @@ void tst_LookCheck::sheetThatCannotBe()
     const QStringList sheet{QStringLiteral("--sheet"), page};
     for (const char *noGallery : {"--gallery /no/gallery", "--gallery /bin/false"})
         QCOMPARE(Run(sheet + words(noGallery) + QStringList(deployment.path())).status, ::cannotRun);
-    deployment.write(QStringLiteral("Close@2x.png"), png(hugeSide));
+    deployment.write(QStringLiteral("Close@2x.png"), Picture::png(Picture::hugeSide));
     const Run bomb(sheet + QStringList(deployment.path()));
     QCOMPARE(bomb.status, ::cannotRun);
     QVERIFY(bomb.errors.contains("Close@2x.png' is too large"));

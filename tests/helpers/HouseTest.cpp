@@ -1,6 +1,7 @@
 #include "helpers/HouseTest.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QEnterEvent>
 #include <QLibraryInfo>
 
@@ -109,6 +110,17 @@ QString Picture::difference(const QImage &actual, const QImage &wanted, int tole
                     .arg(colorAt(actual, x, y), colorAt(wanted, x, y));
     }
     return QString();
+}
+
+QByteArray Picture::png(int side)
+{
+    QImage image(side, side, QImage::Format_Mono);
+    image.fill(1);
+    QByteArray file;
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return file;
 }
 
 QString Picture::colorAt(const QImage &image, int x, int y)

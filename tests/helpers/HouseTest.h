@@ -94,6 +94,11 @@ QImage fromLetters(const char *letters, const Legend &legend, const QColor &grou
 /** Where two pictures differ first by more than the tolerance in a channel, and how; empty where they do not. */
 QString difference(const QImage &actual, const QImage &wanted, int tolerance = 0);
 
+constexpr int hugeSide = 9000; // of a square that is a hundred kilobytes as a file, some hundred megabytes as a pixmap
+
+/** The file of a white square. */
+QByteArray png(int side);
+
 /** "#aarrggbb" at a point, for readable failures. */
 QString colorAt(const QImage &image, int x, int y);
 
